@@ -1,0 +1,48 @@
+#include "itemimagehandler.h"
+
+#include <QPainter>
+#include <QTextDocument>
+#include <QUrl>
+
+namespace lctrlsex {
+
+QImage ItemImageHandler::imageOf(const QTextDocument *document, const QTextImageFormat &format)
+{
+    const QVariant value = document->resource(QTextDocument::ImageResource, QUrl(format.name()));
+    return value.value<QImage>();
+}
+
+QSizeF ItemImageHandler::intrinsicSize(QTextDocument *document, int position,
+                                       const QTextFormat &format)
+{
+    Q_UNUSED(position)
+    const QTextImageFormat image = format.toImageFormat();
+    const bool hasWidth = image.hasProperty(QTextFormat::ImageWidth);
+    const bool hasHeight = image.hasProperty(QTextFormat::ImageHeight);
+    if (hasWidth && hasHeight) {
+        return {image.width(), image.height()};
+    }
+    const QSizeF own = imageOf(document, image).size();
+    if (own.isEmpty()) {
+        return {hasWidth ? image.width() : 0, hasHeight ? image.height() : 0};
+    }
+    if (hasWidth) {
+        return {image.width(), image.width() * own.height() / own.width()};
+    }
+    if (hasHeight) {
+        return {image.height() * own.width() / own.height(), image.height()};
+    }
+    return own;
+}
+
+void ItemImageHandler::drawObject(QPainter *painter, const QRectF &rect, QTextDocument *document,
+                                  int position, const QTextFormat &format)
+{
+    Q_UNUSED(position)
+    const QImage image = imageOf(document, format.toImageFormat());
+    if (!image.isNull()) {
+        painter->drawImage(rect, image, image.rect());
+    }
+}
+
+} // namespace lctrlsex

@@ -1,0 +1,135 @@
+#include "topblocks.h"
+
+#include "itemdocument.h"
+
+#include <QTextBlock>
+#include <QTextCursor>
+#include <QTextDocumentFragment>
+#include <QTextFrame>
+#include <QUrl>
+
+namespace lctrlsex {
+
+namespace {
+
+/** The smallest text that is worth a guess at how much of it a page holds. */
+constexpr int LeastLineHeight = 14;
+constexpr int AreaOfCharacter = 120;
+
+/** Asks another document for its images, so that nothing loads that this one would not. */
+class BorrowingDocument : public QTextDocument
+{
+public:
+    using QTextDocument::QTextDocument;
+    QPointer<const QTextDocument> lender;
+
+protected:
+    QVariant loadResource(int type, const QUrl &name) override
+    {
+        QVariant value = lender != nullptr ? lender->resource(type, name) : QVariant();
+        // An invalid value would make Qt open the path itself.
+        return value.isValid() ? value : QVariant(QImage(1, 1, QImage::Format_ARGB32));
+    }
+};
+
+} // namespace
+
+TopBlocks::TopBlocks(QObject *parent) : QObject(parent) {}
+
+TopBlocks::~TopBlocks() = default;
+
+void TopBlocks::invalidate()
+{
+    m_isCurrent = false;
+}
+
+void TopBlocks::onContentsChange(int position)
+{
+    if (position <= m_end) {
+        m_isCurrent = false;
+    }
+}
+
+void TopBlocks::attach(const QTextDocument *source)
+{
+    if (m_source != nullptr) {
+        disconnect(m_source, nullptr, this, nullptr);
+    }
+    m_source = source;
+    m_isCurrent = false;
+    connect(source, &QTextDocument::contentsChange, this,
+            [this](int position, int, int) { onContentsChange(position); });
+}
+
+QTextDocument *TopBlocks::documentFor(const QTextDocument *source, const QSize &size)
+{
+    if (source != m_source) {
+        attach(source);
+    }
+    if (!m_isCurrent || size != m_size) {
+        rebuild(size);
+    }
+    return m_copy;
+}
+
+void TopBlocks::copySettings(QTextDocument *target) const
+{
+    target->setUndoRedoEnabled(false);
+    target->setDefaultFont(m_source->defaultFont());
+    target->setDefaultTextOption(m_source->defaultTextOption());
+    target->setIndentWidth(m_source->indentWidth());
+    target->setUseDesignMetrics(m_source->useDesignMetrics());
+    prepareLayout(target);
+    target->rootFrame()->setFrameFormat(m_source->rootFrame()->frameFormat());
+}
+
+/** The position behind the first blocks that hold that many characters or are that many. */
+int TopBlocks::endOfTop(int characters, int blocks) const
+{
+    const QTextFrame *root = m_source->rootFrame();
+    int end = 0;
+    int seen = 0;
+    for (auto it = root->begin(); !it.atEnd(); ++it) {
+        ++seen;
+        if (it.currentFrame() != nullptr) {
+            continue; // a table is copied whole, with the block that always follows it
+        }
+        end = it.currentBlock().position() + it.currentBlock().length() - 1;
+        if (seen >= blocks || end >= characters) {
+            break;
+        }
+    }
+    return end;
+}
+
+void TopBlocks::rebuild(const QSize &size)
+{
+    const int last = m_source->characterCount() - 1;
+    int characters = size.width() * size.height() / AreaOfCharacter + 64;
+    int blocks = size.height() / LeastLineHeight + 2;
+    Q_FOREVER {
+        m_end = qMin(endOfTop(characters, blocks), last);
+        delete m_copy;
+        auto *copy = new BorrowingDocument(this);
+        copy->lender = m_source;
+        m_copy = copy;
+        copySettings(copy);
+        QTextCursor from(const_cast<QTextDocument *>(m_source.data()));
+        from.setPosition(m_end, QTextCursor::KeepAnchor);
+        QTextCursor to(copy);
+        to.insertFragment(QTextDocumentFragment(from));
+        // What is inserted into an empty first block leaves that block its own format.
+        to.setPosition(0);
+        to.setBlockFormat(m_source->firstBlock().blockFormat());
+        copy->setTextWidth(size.width());
+        if (m_end >= last || copy->size().height() > size.height()) {
+            break;
+        }
+        characters *= 2;
+        blocks *= 2;
+    }
+    m_size = size;
+    m_isCurrent = true;
+}
+
+} // namespace lctrlsex

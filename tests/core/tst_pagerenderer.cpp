@@ -1,0 +1,273 @@
+#include "itemdocument.h"
+#include "pagelines.h"
+#include "pagerenderer.h"
+#include "topblocks.h"
+
+#include <QAbstractTextDocumentLayout>
+#include <QGuiApplication>
+#include <QPalette>
+#include <QTextBlock>
+#include <QTextCursor>
+#include <QTextTable>
+#include <QtTest>
+
+using namespace lctrlsex;
+
+namespace {
+
+QString paragraphs(int count, const QString &style = QString())
+{
+    QString html;
+    for (int i = 0; i < count; ++i) {
+        html += QStringLiteral("<p style=\"margin:0px;%1\"><span style=\"font-family:'DejaVu Sans';"
+                               "font-size:%2pt;color:#%3\">Line %4 of the notice</span></p>")
+                    .arg(style)
+                    .arg(10 + i % 7)
+                    .arg(0x40ff00 + i * 97 % 200, 6, 16, QLatin1Char('0'))
+                    .arg(i);
+    }
+    return html;
+}
+
+QString table(int rows)
+{
+    QString html = QStringLiteral("<table border=\"1\" cellpadding=\"2\" cellspacing=\"0\">");
+    for (int i = 0; i < rows; ++i) {
+        html += QStringLiteral("<tr><td width=\"60\">%1</td><td width=\"120\">Platform %1</td></tr>")
+                    .arg(i);
+    }
+    return html + QStringLiteral("</table>");
+}
+
+/** What a page must look like: the whole document, laid out apart from any view. */
+QImage drawnFromClone(const QTextDocument &document, const PageStyle &style)
+{
+    QScopedPointer<QTextDocument> clone(document.clone());
+    prepareLayout(clone.data());
+    clone->setTextWidth(style.size.width());
+    return drawTop(clone.data(), style);
+}
+
+} // namespace
+
+class TestPageRenderer : public QObject
+{
+    Q_OBJECT
+private slots:
+    void pointIsPixel();
+    void topEqualsWholeDocument_data();
+    void topEqualsWholeDocument();
+    void editsBelowThePageCostNothing();
+    void viewsOwnLayoutIsLeftAlone();
+    void impossibleSizesGiveNoPage_data();
+    void impossibleSizesGiveNoPage();
+    void paletteIsNotSeen();
+    void groundAndAlpha();
+    void finishRunsHollowThenStroke();
+};
+
+void TestPageRenderer::pointIsPixel()
+{
+    const QString text = QStringLiteral("<p style=\"font-family:'DejaVu Sans'; font-size:16%1\">"
+                                        "Departures<br/>Arrivals</p>");
+    ItemDocument points;
+    points.loadItem(text.arg(QStringLiteral("pt")), {});
+    ItemDocument pixels;
+    pixels.loadItem(text.arg(QStringLiteral("px")), {});
+    points.setTextWidth(200);
+    pixels.setTextWidth(200);
+    QCOMPARE(points.size(), pixels.size());
+    PageStyle style;
+    style.size = QSize(200, 60);
+    style.isTransparent = true;
+    QCOMPARE(drawTop(&points, style), drawTop(&pixels, style));
+}
+
+void TestPageRenderer::topEqualsWholeDocument_data()
+{
+    QTest::addColumn<QString>("html");
+    QTest::addColumn<int>("fontSpace");
+    const QString justified = QStringLiteral("text-align:justify;text-indent:12px;");
+    QTest::newRow("empty") << QString() << 0;
+    QTest::newRow("one line") << paragraphs(1) << 0;
+    QTest::newRow("first block centred")
+        << QStringLiteral("<p align=\"center\" style=\"line-height:150%;margin-top:9px\">Top</p>")
+            + paragraphs(3)
+        << 0;
+    QTest::newRow("many pages") << paragraphs(400) << 0;
+    QTest::newRow("letter spacing") << paragraphs(40) << 5;
+    QTest::newRow("justified and indented") << paragraphs(40, justified) << 0;
+    QTest::newRow("right to left")
+        << QStringLiteral("<p dir=\"rtl\">\u0645\u0631\u062d\u0628\u0627 platform 3</p>")
+            + paragraphs(60)
+        << 0;
+    QTest::newRow("list")
+        << QStringLiteral("<ol><li>First</li><li>Second<ul><li>Inner</li></ul></li></ol>")
+            + paragraphs(60)
+        << 0;
+    QTest::newRow("table first") << table(4) + paragraphs(60) << 0;
+    QTest::newRow("table inside") << paragraphs(2) + table(30) + paragraphs(60) << 0;
+    QTest::newRow("table only") << table(50) << 0;
+    QTest::newRow("image")
+        << QStringLiteral("<p>A <img src=\"data://bindKey/weather/now.png\"/> B</p>")
+            + paragraphs(60)
+        << 0;
+    QTest::newRow("background and rule")
+        << QStringLiteral("<p style=\"background-color:#203040\">Note</p><hr/>") + paragraphs(60)
+        << 0;
+}
+
+void TestPageRenderer::topEqualsWholeDocument()
+{
+    QFETCH(QString, html);
+    QFETCH(int, fontSpace);
+    TextSettings settings;
+    settings.fontSpace = fontSpace;
+    ItemDocument document;
+    document.loadItem(html, settings);
+    QImage field(40, 18, QImage::Format_ARGB32);
+    field.fill(Qt::yellow);
+    document.addResource(QTextDocument::ImageResource,
+                         QUrl(QStringLiteral("data://bindKey/weather/now.png")), field);
+    document.markContentsDirty(0, document.characterCount());
+
+    PageRenderer renderer;
+    for (const QSize &size : {QSize(256, 64), QSize(384, 128), QSize(31, 400), QSize(640, 16)}) {
+        for (const bool transparent : {true, false}) {
+            PageStyle style;
+            style.size = size;
+            style.isTransparent = transparent;
+            QCOMPARE(renderer.topPage(&document, style), drawnFromClone(document, style));
+        }
+    }
+    PageStyle style;
+    style.size = QSize(256, 64);
+    for (const int position : {0, 5, document.characterCount() / 2, document.characterCount() - 1}) {
+        QTextCursor cursor(&document);
+        cursor.setPosition(qMin(position, document.characterCount() - 1));
+        cursor.insertText(QStringLiteral("+"));
+        QCOMPARE(renderer.topPage(&document, style), drawnFromClone(document, style));
+    }
+}
+
+void TestPageRenderer::editsBelowThePageCostNothing()
+{
+    ItemDocument document;
+    document.loadItem(paragraphs(300), {});
+    TopBlocks top;
+    const QSize size(256, 64);
+    QPointer<QTextDocument> before = top.documentFor(&document, size);
+    QVERIFY(before->blockCount() < 20);
+    QTextCursor cursor(&document);
+    cursor.movePosition(QTextCursor::End);
+    cursor.insertText(QStringLiteral("below"));
+    QCOMPARE(top.documentFor(&document, size), before.data());
+    cursor.setPosition(2);
+    cursor.insertText(QStringLiteral("inside"));
+    QVERIFY(top.documentFor(&document, size)->toPlainText().startsWith(QStringLiteral("Liinside")));
+}
+
+void TestPageRenderer::viewsOwnLayoutIsLeftAlone()
+{
+    ItemDocument document;
+    document.loadItem(paragraphs(50), {});
+    document.setTextWidth(700);
+    QSignalSpy layouts(document.documentLayout(),
+                       &QAbstractTextDocumentLayout::documentSizeChanged);
+    PageRenderer renderer;
+    PageStyle style;
+    style.size = QSize(64, 64);
+    QVERIFY(!renderer.topPage(&document, style).isNull());
+    QCOMPARE(document.textWidth(), 700.0);
+    QCOMPARE(layouts.count(), 0);
+}
+
+void TestPageRenderer::impossibleSizesGiveNoPage_data()
+{
+    QTest::addColumn<QSize>("size");
+    QTest::addColumn<bool>("possible");
+    QTest::newRow("invalid") << QSize() << false;
+    QTest::newRow("no width") << QSize(0, 64) << false;
+    QTest::newRow("no height") << QSize(64, 0) << false;
+    QTest::newRow("negative") << QSize(-5, -5) << false;
+    QTest::newRow("too long") << QSize(100000, 1) << false;
+    QTest::newRow("too many pixels") << QSize(16000, 16000) << false;
+    QTest::newRow("one pixel") << QSize(1, 1) << true;
+}
+
+void TestPageRenderer::impossibleSizesGiveNoPage()
+{
+    QFETCH(QSize, size);
+    QFETCH(bool, possible);
+    ItemDocument document;
+    document.loadItem(paragraphs(2), {});
+    PageRenderer renderer;
+    PageStyle style;
+    style.size = size;
+    QCOMPARE(!renderer.topPage(&document, style).isNull(), possible);
+    QCOMPARE(isPageSize(size), possible);
+}
+
+void TestPageRenderer::paletteIsNotSeen()
+{
+    ItemDocument document;
+    document.loadItem(QStringLiteral("<p>Plain</p>"), {});
+    PageStyle style;
+    style.size = QSize(100, 40);
+    style.background = Qt::white;
+    const QImage light = drawnFromClone(document, style);
+    const QPalette kept = QGuiApplication::palette();
+    QPalette dark = kept;
+    dark.setColor(QPalette::Text, Qt::white);
+    dark.setColor(QPalette::Base, Qt::black);
+    QGuiApplication::setPalette(dark);
+    const QImage again = drawnFromClone(document, style);
+    QGuiApplication::setPalette(kept);
+    QCOMPARE(again, light);
+}
+
+void TestPageRenderer::groundAndAlpha()
+{
+    ItemDocument document;
+    document.loadItem(QString(), {});
+    PageRenderer renderer;
+    PageStyle style;
+    style.size = QSize(8, 8);
+    style.background = QColor(10, 20, 30, 40);
+    QImage page = renderer.topPage(&document, style);
+    QCOMPARE(page.format(), QImage::Format_ARGB32);
+    QCOMPARE(page.pixel(4, 4), qRgba(10, 20, 30, 255));
+    style.isTransparent = true;
+    page = renderer.topPage(&document, style);
+    QCOMPARE(page.format(), QImage::Format_ARGB32);
+    QCOMPARE(page.pixel(4, 4), 0u);
+}
+
+void TestPageRenderer::finishRunsHollowThenStroke()
+{
+    PageEffects effects;
+    effects.hollow = [](const QImage &image) {
+        QImage marked = image;
+        marked.setPixel(0, 0, qRgba(1, 0, 0, 255));
+        return marked;
+    };
+    effects.stroke = [](const QImage &image, const QColor &color) {
+        QImage marked = image;
+        if (image.pixel(0, 0) == qRgba(1, 0, 0, 255)) {
+            marked.setPixel(0, 0, color.rgba());
+        }
+        return marked;
+    };
+    QImage page(4, 4, QImage::Format_ARGB32);
+    page.fill(qRgba(9, 9, 9, 255));
+    PageFinish finish;
+    finish.isHollow = true;
+    finish.hasStroke = true;
+    finish.strokeColor = Qt::green;
+    finish.contentAlign = Qt::AlignTop;
+    QCOMPARE(finishPage(page, page.size(), finish, effects).pixel(0, 0), QColor(Qt::green).rgba());
+    QVERIFY(finishPage(QImage(), QSize(4, 4), finish, effects).isNull());
+}
+
+QTEST_MAIN(TestPageRenderer)
+#include "tst_pagerenderer.moc"
