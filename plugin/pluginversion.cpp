@@ -1,0 +1,6 @@
+#include "pluginversion.h"
+
+const char *lctrlsexPluginVersion()
+{
+    return LCTRLSEX_VERSION;
+}
