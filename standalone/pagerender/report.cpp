@@ -1,0 +1,111 @@
+#include "report.h"
+
+#include <QJsonDocument>
+#include <QJsonObject>
+
+#include <cstdio>
+#include <unistd.h>
+
+namespace {
+
+void print(FILE *stream, const QString &text)
+{
+    const QByteArray bytes = text.toUtf8();
+    std::fwrite(bytes.constData(), 1, size_t(bytes.size()), stream);
+    std::fflush(stream);
+}
+
+/** Keeps a message on its line whatever a broken programme puts into it. */
+QString oneLine(QString text)
+{
+    for (QChar &c : text) {
+        if (c.category() == QChar::Other_Control || c == QChar::LineSeparator
+            || c == QChar::ParagraphSeparator) {
+            c = QLatin1Char(' ');
+        }
+    }
+    return text;
+}
+
+} // namespace
+
+Report::Report(const QString &file, bool asJson, bool isQuiet)
+    : m_file(file == QLatin1String("-") ? QStringLiteral("standard input") : file)
+    , m_asJson(asJson)
+    , m_isQuiet(isQuiet)
+    , m_onTerminal(isatty(STDERR_FILENO) == 1)
+{
+}
+
+void Report::problem(const player::Problem &problem)
+{
+    const bool isError = problem.severity == player::Problem::Error;
+    m_errors += isError ? 1 : 0;
+    m_problems.append(QJsonObject{
+        {QStringLiteral("severity"), isError ? QStringLiteral("error") : QStringLiteral("warning")},
+        {QStringLiteral("place"), problem.place},
+        {QStringLiteral("reason"), problem.reason},
+        {QStringLiteral("remedy"), problem.remedy}});
+    if (m_isQuiet && !isError) {
+        return;
+    }
+    clearProgress();
+    QStringList parts{m_file};
+    if (!problem.place.isEmpty()) {
+        parts.append(problem.place);
+    }
+    const QString kind = isError ? QString() : QStringLiteral("warning: ");
+    parts.append(kind + problem.reason
+                 + (problem.remedy.isEmpty() ? QString() : QStringLiteral("; ") + problem.remedy));
+    print(stderr, oneLine(parts.join(QStringLiteral(": "))) + QLatin1Char('\n'));
+}
+
+void Report::problems(const player::Problems &problems)
+{
+    for (const player::Problem &one : problems) {
+        problem(one);
+    }
+}
+
+void Report::page(const WrittenPage &page)
+{
+    m_pages.append(QJsonObject{{QStringLiteral("place"), page.place},
+                               {QStringLiteral("page"), page.page},
+                               {QStringLiteral("file"), page.file},
+                               {QStringLiteral("width"), page.size.width()},
+                               {QStringLiteral("height"), page.size.height()}});
+    if (!m_isQuiet && !m_asJson) {
+        clearProgress();
+        print(stdout, page.file + QLatin1Char('\n'));
+    }
+}
+
+void Report::progress(const QString &text)
+{
+    if (m_onTerminal && !m_isQuiet) {
+        clearProgress();
+        print(stderr, oneLine(text));
+        m_progressShown = true;
+    }
+}
+
+void Report::clearProgress()
+{
+    if (m_progressShown) {
+        print(stderr, QStringLiteral("\r\033[K"));
+        m_progressShown = false;
+    }
+}
+
+void Report::finish(const QString &summary)
+{
+    clearProgress();
+    if (m_asJson) {
+        const QJsonObject report{{QStringLiteral("programme"), m_file},
+                                 {QStringLiteral("pages"), m_pages},
+                                 {QStringLiteral("problems"), m_problems}};
+        print(stdout, QString::fromUtf8(QJsonDocument(report).toJson()));
+    } else if (!m_isQuiet && !summary.isEmpty()) {
+        print(stderr, summary + QLatin1Char('\n'));
+    }
+}

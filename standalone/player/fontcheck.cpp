@@ -1,0 +1,90 @@
+#include "fontcheck.h"
+
+#include <QFontDatabase>
+#include <QFontMetrics>
+#include <QSet>
+#include <QTextBlock>
+#include <QTextDocument>
+
+namespace player {
+
+namespace {
+
+/** Calls @p visit with each run of text and its format. */
+template <typename Visitor>
+void forEachRun(const QTextDocument &document, Visitor visit)
+{
+    for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
+        for (auto it = block.begin(); !it.atEnd(); ++it) {
+            visit(it.fragment().text(), it.fragment().charFormat());
+        }
+    }
+}
+
+/** Formats, joiners and blanks have no picture of their own; an image stands for itself. */
+bool needsGlyph(uint c)
+{
+    switch (QChar::category(c)) {
+    case QChar::Other_Control:
+    case QChar::Other_Format:
+    case QChar::Other_Surrogate:
+    case QChar::Separator_Line:
+    case QChar::Separator_Paragraph:
+    case QChar::Separator_Space:
+        return false;
+    default:
+        const bool isVariationSelector = (c >= 0xfe00 && c <= 0xfe0f) || c >= 0xe0100;
+        return c != QChar::ObjectReplacementCharacter && !isVariationSelector;
+    }
+}
+
+} // namespace
+
+QStringList missingFamilies(const QTextDocument &document)
+{
+    const QFontDatabase database;
+    QSet<QString> seen;
+    QStringList missing;
+    forEachRun(document, [&](const QString &, const QTextCharFormat &format) {
+        // A list of families names its own substitutes, so the first installed one is as meant.
+        const QFont font = format.font().resolve(document.defaultFont());
+        const QStringList families = font.families().isEmpty() ? QStringList(font.family())
+                                                               : font.families();
+        const QString wanted = families.constFirst();
+        if (seen.contains(wanted)) {
+            return;
+        }
+        seen.insert(wanted);
+        const bool isThere = std::any_of(
+            families.begin(), families.end(),
+            [&database](const QString &family) { return database.hasFamily(family); });
+        if (!isThere) {
+            missing.append(wanted);
+        }
+    });
+    return missing;
+}
+
+QVector<uint> missingCharacters(const QTextDocument &document)
+{
+    QSet<QPair<QString, uint>> seen;
+    QVector<uint> missing;
+    forEachRun(document, [&](const QString &text, const QTextCharFormat &format) {
+        const QFont font = format.font().resolve(document.defaultFont());
+        const QFontMetrics metrics(font);
+        const QVector<uint> characters = text.toUcs4();
+        for (const uint c : characters) {
+            const auto key = qMakePair(font.family(), c);
+            if (!needsGlyph(c) || seen.contains(key)) {
+                continue;
+            }
+            seen.insert(key);
+            if (!metrics.inFontUcs4(c) && !missing.contains(c)) {
+                missing.append(c);
+            }
+        }
+    });
+    return missing;
+}
+
+} // namespace player

@@ -1,0 +1,167 @@
+#include "itemcheck.h"
+
+#include "fontcheck.h"
+#include "itemrenderer.h"
+
+#include <QAbstractTextDocumentLayout>
+#include <QCoreApplication>
+#include <QGlyphRun>
+#include <QTextBlock>
+#include <QTextLayout>
+
+namespace player {
+
+namespace {
+
+constexpr int CharactersNamed = 8;
+constexpr int TextShown = 24;
+
+QString tr(const char *text)
+{
+    return QCoreApplication::translate("ItemCheck", text);
+}
+
+/** The words of a line, shortened, by which a user finds it. */
+QString quoted(QString text)
+{
+    text = text.simplified();
+    if (text.size() > TextShown) {
+        text = text.left(TextShown) + QChar(0x2026);
+    }
+    return QLatin1Char('"') + text + QLatin1Char('"');
+}
+
+class Checker
+{
+public:
+    explicit Checker(ItemRenderer *item) : m_item(item) {}
+
+    Problems run()
+    {
+        checkCharacters();
+        for (QTextBlock block = document().begin(); block.isValid(); block = block.next()) {
+            checkLines(block);
+            checkRuns(block);
+        }
+        return m_problems;
+    }
+
+private:
+    lctrlsex::ItemDocument &document() { return m_item->document(); }
+
+    void warn(const QString &part, const QString &reason, const QString &remedy)
+    {
+        m_problems.append({Problem::Warning, m_item->place() + QStringLiteral(": ") + part, reason,
+                           remedy});
+    }
+
+    void checkCharacters()
+    {
+        const QVector<uint> missing = missingCharacters(document());
+        if (missing.isEmpty()) {
+            return;
+        }
+        QStringList names;
+        for (const uint c : missing.mid(0, CharactersNamed)) {
+            names.append(QStringLiteral("%1 (U+%2)")
+                             .arg(QString::fromUcs4(&c, 1))
+                             .arg(c, 4, 16, QLatin1Char('0')));
+        }
+        const int more = missing.size() - names.size();
+        warn(tr("characters"),
+             tr("no installed font shows %1").arg(names.join(QStringLiteral(", ")))
+                 + (more > 0 ? tr(" and %1 more").arg(more) : QString()),
+             tr("install a font that has them or choose other characters"));
+    }
+
+    /** Ink, and not the line's box, decides: room for a descender may be cut away unseen. */
+    void checkLines(const QTextBlock &block)
+    {
+        const QTextLayout *layout = block.layout();
+        const QPointF origin
+            = document().documentLayout()->blockBoundingRect(block).topLeft() - layout->position();
+        for (int i = 0; i < layout->lineCount(); ++i) {
+            QRectF ink;
+            const QTextLine line = layout->lineAt(i);
+            for (const QGlyphRun &run : line.glyphRuns()) {
+                ink |= run.boundingRect();
+            }
+            ink.translate(origin + layout->position());
+            const QString text = block.text().mid(line.textStart(), line.textLength());
+            checkInk(ink, text);
+        }
+    }
+
+    void checkInk(const QRectF &ink, const QString &text)
+    {
+        if (ink.isEmpty()) {
+            return;
+        }
+        if (ink.right() > m_item->size().width() + 1 || ink.left() < -1) {
+            warn(tr("text %1").arg(quoted(text)),
+                 tr("it is wider than the item and cut at the side"),
+                 tr("use a smaller font or a wider item, or break the line"));
+        }
+        const auto &slices = m_item->slices();
+        const bool isWhole = std::any_of(slices.begin(), slices.end(), [&ink](const auto &slice) {
+            return slice.top <= ink.top() + 1 && slice.bottom >= ink.bottom() - 1;
+        });
+        if (!isWhole) {
+            warn(tr("text %1").arg(quoted(text)), tr("it is higher than the item and cut"),
+                 tr("use a smaller font or a higher item"));
+        }
+    }
+
+    void checkRuns(const QTextBlock &block)
+    {
+        for (auto it = block.begin(); !it.atEnd(); ++it) {
+            const QTextCharFormat format = it.fragment().charFormat();
+            if (format.isImageFormat()) {
+                checkImage(format.toImageFormat(), it.fragment().position());
+            } else {
+                checkColor(format, it.fragment().text());
+            }
+        }
+    }
+
+    void checkImage(const QTextImageFormat &format, int position)
+    {
+        QTextObjectInterface *handler
+            = document().documentLayout()->handlerForObject(QTextFormat::ImageObject);
+        const QSizeF size = handler->intrinsicSize(&document(), position, format);
+        if (size.width() > m_item->size().width() || size.height() > m_item->size().height()) {
+            warn(tr("image %1").arg(format.name().left(TextShown)),
+                 tr("%1 x %2 pixels is larger than the item").arg(size.width()).arg(size.height()),
+                 tr("make the image smaller than %1 x %2 pixels")
+                     .arg(m_item->size().width())
+                     .arg(m_item->size().height()));
+        }
+    }
+
+    void checkColor(const QTextCharFormat &format, const QString &text)
+    {
+        const bool ownGround = format.background().style() != Qt::NoBrush;
+        if (text.trimmed().isEmpty() || (m_item->style().isTransparent && !ownGround)) {
+            return;
+        }
+        const QColor ground = ownGround ? format.background().color() : m_item->style().background;
+        const QColor ink = format.foreground().style() != Qt::NoBrush ? format.foreground().color()
+                                                                      : QColor(Qt::black);
+        if (ink.rgb() == ground.rgb()) {
+            warn(tr("text %1").arg(quoted(text)), tr("it has the colour of its ground"),
+                 tr("change the colour of the text or of the ground"));
+        }
+    }
+
+    ItemRenderer *m_item;
+    Problems m_problems;
+};
+
+} // namespace
+
+Problems checkItem(ItemRenderer *item)
+{
+    return item->hasPages() ? Checker(item).run() : Problems();
+}
+
+} // namespace player

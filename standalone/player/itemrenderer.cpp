@@ -1,0 +1,107 @@
+#include "itemrenderer.h"
+
+#include "documentstorage.h"
+#include "fontcheck.h"
+#include "htmlguard.h"
+#include "ltexteffectnode.h"
+#include "nodepage.h"
+
+#include <QCoreApplication>
+
+namespace player {
+
+using namespace lctrlsex;
+
+namespace {
+
+QString tr(const char *text)
+{
+    return QCoreApplication::translate("ItemRenderer", text);
+}
+
+} // namespace
+
+ItemRenderer::ItemRenderer(LTextEffectNode *node, const QString &place, const QSize &size)
+    : m_node(node)
+    , m_place(place)
+    , m_style(pageStyleOf(node))
+    , m_finish(pageFinishOf(node))
+{
+    if (size.isValid()) {
+        m_style.size = size;
+    }
+    if (!isPageSize(m_style.size)) {
+        problem(Problem::Error, tr("size"),
+                tr("%1 x %2 pixels is no page size").arg(m_style.size.width()).arg(m_style.size.height()),
+                tr("give both sides from 1 to %1 pixels, %2 million in all")
+                    .arg(LongestPageSide)
+                    .arg(MostPagePixels / 1000000));
+        return;
+    }
+    if (!load()) {
+        return;
+    }
+    m_document.setTextWidth(m_style.size.width());
+    m_slices = paginate(m_document, m_style.size.height());
+    if (m_slices.size() == MostPages) {
+        problem(Problem::Error, tr("text"), tr("it has more than %1 pages").arg(MostPages),
+                tr("make the item higher or its text shorter"));
+    }
+    for (const ItemDocument::DeniedResource &denied : m_document.deniedResources()) {
+        problem(Problem::Error, tr("image %1").arg(denied.name), denied.reason, QString());
+    }
+    for (const QString &family : missingFamilies(m_document)) {
+        problem(Problem::Error, tr("font %1").arg(family),
+                tr("it is not installed, another font would be shown"),
+                tr("install the font or choose another one"));
+    }
+}
+
+ItemRenderer::~ItemRenderer() = default;
+
+bool ItemRenderer::load()
+{
+    // The raw text is what the author edited; an item that was never edited here may have the
+    // display text alone.
+    QString html = m_node->GetHtmlText();
+    const QString stored = m_node->GetRawHtmlText();
+    if (!stored.isEmpty()) {
+        const DecodedDocument decoded = decodeDocument(stored);
+        if (!decoded.error.isEmpty()) {
+            problem(Problem::Error, tr("document"), decoded.error,
+                    tr("restore the programme file from a copy; the stored text is kept as it is"));
+            return false;
+        }
+        html = decoded.html;
+    }
+    const GuardedHtml guarded = guardHtml(html);
+    if (!guarded.accepted) {
+        problem(Problem::Error,
+                tr("document line %1 column %2").arg(guarded.line).arg(guarded.column),
+                guarded.reason, guarded.remedy);
+        return false;
+    }
+    m_document.loadItem(guarded.html, textSettingsOf(m_node));
+    return true;
+}
+
+void ItemRenderer::problem(Problem::Severity severity, const QString &part, const QString &reason,
+                           const QString &remedy)
+{
+    m_problems.append({severity, m_place + QStringLiteral(": ") + part, reason, remedy});
+}
+
+QImage ItemRenderer::page(int index)
+{
+    if (index < 0 || index >= m_slices.size()) {
+        return {};
+    }
+    return drawSlice(&m_document, m_style, m_slices.at(index));
+}
+
+QImage ItemRenderer::finishedPage(int index)
+{
+    return finishPage(page(index), m_style.size, m_finish, hostEffects());
+}
+
+} // namespace player
