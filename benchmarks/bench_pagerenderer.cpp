@@ -120,8 +120,7 @@ void pageImageEditBelow(benchmark::State &state)
     QTextCursor cursor(&document);
     cursor.movePosition(QTextCursor::End);
     compare(
-        state,
-        [&] { benchmark::DoNotOptimize(renderer.topPage(&document, style).constBits()); },
+        state, [&] { benchmark::DoNotOptimize(renderer.topPage(&document, style).constBits()); },
         [&] {
             drawFloor(laidOut.get(), style);
             cursor.insertText(QStringLiteral("x"));

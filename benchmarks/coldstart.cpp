@@ -34,8 +34,8 @@ double timeOf(const std::vector<std::string> &command)
     if (posix_spawn(&child, words[0], &actions, nullptr, words.data(), environ) == 0) {
         waitpid(child, &status, 0);
     }
-    const std::chrono::duration<double, std::milli> taken
-        = std::chrono::steady_clock::now() - start;
+    const std::chrono::duration<double, std::milli> taken =
+        std::chrono::steady_clock::now() - start;
     posix_spawn_file_actions_destroy(&actions);
     return status == 0 ? taken.count() : -1;
 }

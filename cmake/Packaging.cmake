@@ -12,9 +12,9 @@ write_basic_package_version_file(
 install(FILES
   "${CMAKE_CURRENT_BINARY_DIR}/LCtrlsExPluginConfig.cmake"
   "${CMAKE_CURRENT_BINARY_DIR}/LCtrlsExPluginConfigVersion.cmake"
-  DESTINATION "${config_dir}" COMPONENT devel)
+  DESTINATION "${config_dir}" COMPONENT development)
 install(EXPORT LCtrlsExPluginTargets
-  NAMESPACE LCtrlsEx:: DESTINATION "${config_dir}" COMPONENT devel)
+  NAMESPACE LCtrlsEx:: DESTINATION "${config_dir}" COMPONENT development)
 install(DIRECTORY examples/ DESTINATION "${CMAKE_INSTALL_DATADIR}/lctrlsex/examples"
   COMPONENT runtime FILES_MATCHING PATTERN "*.json")
 install(FILES README.md LICENSE DESTINATION "${CMAKE_INSTALL_DOCDIR}" COMPONENT runtime)
@@ -25,7 +25,7 @@ set(CPACK_PACKAGE_VENDOR "The LCtrlsExPlugin authors")
 set(CPACK_PACKAGE_CONTACT "The LCtrlsExPlugin authors <maintainers@localhost>")
 set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "${PROJECT_DESCRIPTION}")
 set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
-set(CPACK_COMPONENTS_ALL runtime devel)
+set(CPACK_COMPONENTS_ALL runtime development)
 set(CPACK_DEB_COMPONENT_INSTALL ON)
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_SECTION graphics)
@@ -35,8 +35,8 @@ set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS ON)
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_NAME lctrlsex)
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_DEPENDS fonts-dejavu-core)
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_RECOMMENDS "fonts-wqy-zenhei, fonts-liberation2")
-set(CPACK_DEBIAN_DEVEL_PACKAGE_NAME lctrlsex-dev)
-set(CPACK_DEBIAN_DEVEL_PACKAGE_SECTION libdevel)
-set(CPACK_DEBIAN_DEVEL_PACKAGE_DEPENDS
+set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_NAME lctrlsex-dev)
+set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SECTION libdevel)
+set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_DEPENDS
   "lctrlsex (= ${PROJECT_VERSION}), qtbase5-dev")
 include(CPack)

@@ -1,34 +1,15 @@
 #include "itemdocument.h"
 
-#include "itemimagehandler.h"
 #include "rasterimage.h"
 
-#include <QAbstractTextDocumentLayout>
 #include <QFile>
-#include <QTextCursor>
 #include <QUrl>
 
 namespace lctrlsex {
 
 namespace {
 
-constexpr int LargestWordSpacing = 99;
-constexpr int PointsPerInch = 72;
-constexpr int LargestFontSize = 1000;
 constexpr int NameShown = 60;
-
-/** A device on which a point is a pixel. Shared: it is only ever asked for its metrics. */
-QImage *pointDevice()
-{
-    static QImage device = [] {
-        QImage image(1, 1, QImage::Format_ARGB32);
-        const int dotsPerMeter = qRound(PointsPerInch / 0.0254);
-        image.setDotsPerMeterX(dotsPerMeter);
-        image.setDotsPerMeterY(dotsPerMeter);
-        return image;
-    }();
-    return &device;
-}
 
 QImage transparentPixel()
 {
@@ -44,57 +25,8 @@ QString shortened(const QString &name)
 
 } // namespace
 
-bool TextSettings::operator==(const TextSettings &other) const
-{
-    return fontFamily == other.fontFamily && fontSize == other.fontSize
-        && fontSpace == other.fontSpace && singleLine == other.singleLine;
-}
-
-qreal letterSpacing(int value)
-{
-    if (value < 0) {
-        // Kept on purpose because stored items rely on it: negative numbers count an eighth.
-        return value * 0.125;
-    }
-    return value > LargestWordSpacing ? 0 : value;
-}
-
-void prepareLayout(QTextDocument *document)
-{
-    QAbstractTextDocumentLayout *layout = document->documentLayout();
-    layout->setPaintDevice(pointDevice());
-    if (layout->findChild<ItemImageHandler *>() == nullptr) {
-        layout->registerHandler(QTextFormat::ImageObject, new ItemImageHandler(layout));
-    }
-    document->markContentsDirty(0, document->characterCount());
-}
-
-void prepareItemDocument(QTextDocument *document, const TextSettings &settings)
-{
-    document->setDefaultStyleSheet(QStringLiteral("a { text-decoration: none; }"));
-    QFont font = document->defaultFont();
-    if (!settings.fontFamily.isEmpty()) {
-        font.setFamily(settings.fontFamily);
-    }
-    font.setPointSize(qBound(1, settings.fontSize, LargestFontSize));
-    document->setDefaultFont(font);
-    prepareLayout(document);
-}
-
-void applyLetterSpacing(QTextDocument *document, const TextSettings &settings)
-{
-    if (settings.singleLine || settings.fontSpace == 0 || document->isEmpty()) {
-        return;
-    }
-    QTextCharFormat format;
-    format.setFontLetterSpacingType(QFont::AbsoluteSpacing);
-    format.setFontLetterSpacing(letterSpacing(settings.fontSpace));
-    QTextCursor cursor(document);
-    cursor.select(QTextCursor::Document);
-    cursor.mergeCharFormat(format);
-}
-
-ItemDocument::ItemDocument(QObject *parent) : QTextDocument(parent)
+ItemDocument::ItemDocument(QObject *parent)
+    : QTextDocument(parent)
 {
     setUndoRedoEnabled(false);
 }
@@ -104,8 +36,9 @@ void ItemDocument::loadItem(const QString &html, const TextSettings &settings)
     clear();
     m_denied.clear();
     m_images.clear();
-    prepareItemDocument(this, settings);
+    preparePage(this, settings);
     setHtml(html);
+    pointsToPixels(this);
     applyLetterSpacing(this, settings);
 }
 
@@ -149,7 +82,8 @@ QImage ItemDocument::resourceImage(const QString &name)
         const RasterImage raster = decodeRaster(file.readAll());
         return raster.image.isNull() ? deny(name, raster.error) : raster.image;
     }
-    return deny(name, tr("files and addresses are not loaded; insert the image into the programme"));
+    return deny(name,
+                tr("files and addresses are not loaded; insert the image into the programme"));
 }
 
 QImage ItemDocument::deny(const QString &name, const QString &reason)

@@ -1,48 +1,13 @@
 #pragma once
 
+#include "documentsetup.h"
+
 #include <QHash>
 #include <QImage>
 #include <QStringList>
 #include <QTextDocument>
 
 namespace lctrlsex {
-
-/** How the text of an item is set beyond what its HTML says. */
-struct TextSettings
-{
-    QString fontFamily;   ///< For text without a family of its own; empty: the application's.
-    int fontSize = 16;    ///< In points, for text without a size of its own; 1 to 1000.
-    int fontSpace = 0;    ///< The word-spacing control's number, see letterSpacing().
-    bool singleLine = false;
-
-    bool operator==(const TextSettings &other) const;
-    bool operator!=(const TextSettings &other) const { return !(*this == other); }
-};
-
-/**
- * The absolute letter spacing in pixels that the word-spacing control's number @p value means:
- * the number itself from 0 to 99, an eighth of it below 0, 0 above 99.
- */
-[[nodiscard]] qreal letterSpacing(int value);
-
-/**
- * Makes @p document lay out one point, and one pixel of an image, as one pixel; outlives setHtml().
- * Every document that is shown or drawn goes through here, copies too, so that the author sees the
- * page that the screen shows.
- */
-void prepareLayout(QTextDocument *document);
-
-/**
- * prepareLayout(), and what else every document of an item has: links are never underlined, and
- * the font of @p settings is the default font. Outlives setHtml().
- */
-void prepareItemDocument(QTextDocument *document, const TextSettings &settings);
-
-/**
- * Gives all text of @p document the letter spacing of @p settings; HTML cannot carry it. Does
- * nothing in single-line mode, as the control does nothing there.
- */
-void applyLetterSpacing(QTextDocument *document, const TextSettings &settings);
 
 /**
  * A document that loads nothing from outside.
@@ -69,7 +34,8 @@ public:
     [[nodiscard]] QVector<DeniedResource> deniedResources() const { return m_denied; }
 
     /**
-     * Replaces the content by @p html, which has passed the guard. No undo step is kept.
+     * Replaces the content by @p html, which has passed the guard, ready to be laid out and drawn
+     * as pages. Images that were added are dropped. No undo step is kept.
      */
     void loadItem(const QString &html, const TextSettings &settings);
 

@@ -21,7 +21,9 @@ class ItemImageHandler : public QObject, public QTextObjectInterface
     Q_OBJECT
     Q_INTERFACES(QTextObjectInterface)
 public:
-    explicit ItemImageHandler(QObject *parent) : QObject(parent) {}
+    explicit ItemImageHandler(QObject *parent)
+        : QObject(parent)
+    {}
 
     QSizeF intrinsicSize(QTextDocument *document, int position, const QTextFormat &format) override;
     void drawObject(QPainter *painter, const QRectF &rect, QTextDocument *document, int position,

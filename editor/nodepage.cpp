@@ -46,7 +46,9 @@ PageFinish pageFinishOf(LTextEffectNode *node)
 PageEffects hostEffects()
 {
     return {[](const QImage &image) { return getHollowImage(image); },
-            [](const QImage &image, const QColor &color) { return getStrokeImage(image, color); }};
+            [](const QImage &image, const QColor &color) {
+                return getStrokeImage(image, color);
+            }};
 }
 
 } // namespace lctrlsex

@@ -115,8 +115,8 @@ Units frameUnits(const QTextFrame *frame)
 /** Whether a block shows nothing: no text, no image, no ground of its own. */
 bool isBlank(const QTextBlock &block)
 {
-    return block.text().trimmed().isEmpty()
-        && block.blockFormat().background().style() == Qt::NoBrush;
+    return block.text().trimmed().isEmpty() &&
+           block.blockFormat().background().style() == Qt::NoBrush;
 }
 
 /** The height below which only empty lines follow. */
@@ -133,7 +133,10 @@ qreal inkBottom(const QTextDocument &document)
 class Filler
 {
 public:
-    Filler(qreal height, qreal margin) : m_height(height), m_margin(margin) {}
+    Filler(qreal height, qreal margin)
+        : m_height(height)
+        , m_margin(margin)
+    {}
 
     void add(const Unit &unit)
     {
@@ -163,9 +166,8 @@ public:
 private:
     [[nodiscard]] bool fits(const Unit &unit) const
     {
-        const qreal room = m_pages.isEmpty()
-            ? m_height
-            : m_pages.last().top + m_height - m_pages.last().drawnAt;
+        const qreal room =
+            m_pages.isEmpty() ? m_height : m_pages.last().top + m_height - m_pages.last().drawnAt;
         return unit.bottom + unit.border <= room + Tolerance;
     }
 

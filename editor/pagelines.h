@@ -9,10 +9,10 @@ namespace lctrlsex {
 /** A stretch of a laid-out document that shows on one page, in document pixels. */
 struct PageSlice
 {
-    qreal top = 0;    ///< First pixel row of the document that belongs to the page.
-    qreal bottom = 0; ///< One past the last; never more than the page height below drawnAt.
+    qreal top = 0;     ///< First pixel row of the document that belongs to the page.
+    qreal bottom = 0;  ///< One past the last; never more than the page height below drawnAt.
     qreal drawnAt = 0; ///< Where the slice's top stands on the page: the margin kept above it.
-    bool cut = false; ///< A line or table row is higher than a page and loses its lower part.
+    bool cut = false;  ///< A line or table row is higher than a page and loses its lower part.
 };
 
 /** The most pages that one document is broken into; what follows is not shown. */

@@ -22,8 +22,8 @@ QPalette pagePalette()
 QImage groundFor(const PageStyle &style)
 {
     // On an opaque ground both forms hold the same bytes and this one is drawn faster.
-    QImage image(style.size, style.isTransparent ? QImage::Format_ARGB32
-                                                 : QImage::Format_ARGB32_Premultiplied);
+    QImage image(style.size,
+                 style.isTransparent ? QImage::Format_ARGB32 : QImage::Format_ARGB32_Premultiplied);
     QColor ground = style.isTransparent ? QColor(Qt::transparent) : style.background;
     if (!style.isTransparent) {
         ground.setAlpha(255);
@@ -46,9 +46,9 @@ void drawContents(QTextDocument *document, QPainter *painter, const QRectF &show
 
 bool isPageSize(const QSize &size)
 {
-    return size.width() > 0 && size.height() > 0 && size.width() <= LongestPageSide
-        && size.height() <= LongestPageSide
-        && qint64(size.width()) * size.height() <= MostPagePixels;
+    return size.width() > 0 && size.height() > 0 && size.width() <= LongestPageSide &&
+           size.height() <= LongestPageSide &&
+           qint64(size.width()) * size.height() <= MostPagePixels;
 }
 
 QImage drawTop(QTextDocument *document, const PageStyle &style)

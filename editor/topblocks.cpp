@@ -1,6 +1,6 @@
 #include "topblocks.h"
 
-#include "itemdocument.h"
+#include "documentsetup.h"
 
 #include <QTextBlock>
 #include <QTextCursor>
@@ -34,7 +34,9 @@ protected:
 
 } // namespace
 
-TopBlocks::TopBlocks(QObject *parent) : QObject(parent) {}
+TopBlocks::TopBlocks(QObject *parent)
+    : QObject(parent)
+{}
 
 TopBlocks::~TopBlocks() = default;
 
@@ -74,12 +76,15 @@ QTextDocument *TopBlocks::documentFor(const QTextDocument *source, const QSize &
 
 void TopBlocks::copySettings(QTextDocument *target) const
 {
+    const QFont font = m_source->defaultFont();
+    TextSettings settings;
+    settings.fontSize = font.pointSize() > 0 ? font.pointSize() : font.pixelSize();
     target->setUndoRedoEnabled(false);
-    target->setDefaultFont(m_source->defaultFont());
+    target->setDefaultFont(font);
     target->setDefaultTextOption(m_source->defaultTextOption());
     target->setIndentWidth(m_source->indentWidth());
     target->setUseDesignMetrics(m_source->useDesignMetrics());
-    prepareLayout(target);
+    preparePage(target, settings);
     target->rootFrame()->setFrameFormat(m_source->rootFrame()->frameFormat());
 }
 
@@ -107,7 +112,8 @@ void TopBlocks::rebuild(const QSize &size)
     const int last = m_source->characterCount() - 1;
     int characters = size.width() * size.height() / AreaOfCharacter + 64;
     int blocks = size.height() / LeastLineHeight + 2;
-    Q_FOREVER {
+    Q_FOREVER
+    {
         m_end = qMin(endOfTop(characters, blocks), last);
         delete m_copy;
         auto *copy = new BorrowingDocument(this);
@@ -121,6 +127,7 @@ void TopBlocks::rebuild(const QSize &size)
         // What is inserted into an empty first block leaves that block its own format.
         to.setPosition(0);
         to.setBlockFormat(m_source->firstBlock().blockFormat());
+        pointsToPixels(copy);
         copy->setTextWidth(size.width());
         if (m_end >= last || copy->size().height() > size.height()) {
             break;

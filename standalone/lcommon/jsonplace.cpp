@@ -10,7 +10,11 @@ namespace {
 class Walker
 {
 public:
-    explicit Walker(const QByteArray &json) : m_json(json) { skipBlanks(); }
+    explicit Walker(const QByteArray &json)
+        : m_json(json)
+    {
+        skipBlanks();
+    }
 
     [[nodiscard]] int offset() const { return m_at; }
 
@@ -173,8 +177,8 @@ TextPlace placeOfValue(const QByteArray &json, const JsonPath &path)
     Walker walker(json);
     int offset = walker.offset();
     for (const JsonPath::Step &step : path.steps()) {
-        const bool entered = step.position >= 0 ? walker.enterElement(step.position)
-                                                : walker.enterMember(step.name);
+        const bool entered =
+            step.position >= 0 ? walker.enterElement(step.position) : walker.enterMember(step.name);
         if (!entered) {
             break;
         }

@@ -161,20 +161,19 @@ ReadProgramme loadProgramme(const QString &fileName)
 {
     ReadProgramme result;
     QFile file(fileName);
-    const bool isOpen = fileName == QLatin1String("-")
-        ? file.open(stdin, QIODevice::ReadOnly)
-        : file.open(QIODevice::ReadOnly);
+    const bool isOpen = fileName == QLatin1String("-") ? file.open(stdin, QIODevice::ReadOnly)
+                                                       : file.open(QIODevice::ReadOnly);
     if (!isOpen) {
-        result.error = fileError(
-            QStringLiteral("the file cannot be read: %1").arg(file.errorString()),
-            QStringLiteral("check its name and whether you may read it"));
+        result.error =
+            fileError(QStringLiteral("the file cannot be read: %1").arg(file.errorString()),
+                      QStringLiteral("check its name and whether you may read it"));
         return result;
     }
     const QByteArray bytes = readBounded(&file);
     if (file.error() != QFileDevice::NoError) {
-        result.error = fileError(
-            QStringLiteral("the file cannot be read: %1").arg(file.errorString()),
-            QStringLiteral("name a *.programme.json file"));
+        result.error =
+            fileError(QStringLiteral("the file cannot be read: %1").arg(file.errorString()),
+                      QStringLiteral("name a *.programme.json file"));
         return result;
     }
     if (bytes.size() > LargestFile) {

@@ -41,9 +41,10 @@ ReadProgramme ProgrammeReader::read()
     const QJsonDocument json = QJsonDocument::fromJson(m_bytes, &parseError);
     if (parseError.error != QJsonParseError::NoError) {
         result.error.at = placeOfOffset(m_bytes, parseError.offset);
-        result.error.reason = QStringLiteral("the file is not well-formed JSON: %1")
-                                  .arg(parseError.errorString());
-        result.error.remedy = QStringLiteral("mend the place named, or restore the file from a copy");
+        result.error.reason =
+            QStringLiteral("the file is not well-formed JSON: %1").arg(parseError.errorString());
+        result.error.remedy =
+            QStringLiteral("mend the place named, or restore the file from a copy");
         return result;
     }
     if (!json.isObject()) {
@@ -91,17 +92,17 @@ bool ProgrammeReader::readController(const QJsonObject &programme, LControllerNo
     const JsonPath path;
     const JsonPath devicePath = path.key(ProgrammeKeys::Controller);
     QJsonObject device;
-    if (!readName(&rest, path, controller, QString())
-        || !takeObject(ProgrammeKeys::Controller, &rest, path, &device)
-        || !readMembers(ProgrammeSchema::controllerMembers(), &device, devicePath, controller)
-        || !readAttributes(&device, devicePath, controller)) {
+    if (!readName(&rest, path, controller, QString()) ||
+        !takeObject(ProgrammeKeys::Controller, &rest, path, &device) ||
+        !readMembers(ProgrammeSchema::controllerMembers(), &device, devicePath, controller) ||
+        !readAttributes(&device, devicePath, controller)) {
         return false;
     }
     keepUnknown(controller, ProgrammeKeys::UnknownOfDevice, device);
-    const bool isRead = readChildren(
-        ProgrammeKeys::Screens, &rest, path, [&](const QJsonObject &object, const JsonPath &place) {
-            return readScreen(object, place, controller);
-        });
+    const bool isRead = readChildren(ProgrammeKeys::Screens, &rest, path,
+                                     [&](const QJsonObject &object, const JsonPath &place) {
+                                         return readScreen(object, place, controller);
+                                     });
     keepUnknown(controller, ProgrammeKeys::Unknown, rest);
     return isRead;
 }
@@ -112,12 +113,12 @@ bool ProgrammeReader::readScreen(const QJsonObject &object, const JsonPath &path
     parent->AppendChild(screen);
     QJsonObject rest = object;
     const QString fallback = QStringLiteral("Screen %1").arg(parent->ChildNodes().size());
-    const bool isRead = readName(&rest, path, screen, fallback)
-        && readAttributes(&rest, path, screen)
-        && readChildren(ProgrammeKeys::Frames, &rest, path,
-                        [&](const QJsonObject &frame, const JsonPath &place) {
-                            return readFrame(frame, place, screen);
-                        });
+    const bool isRead = readName(&rest, path, screen, fallback) &&
+                        readAttributes(&rest, path, screen) &&
+                        readChildren(ProgrammeKeys::Frames, &rest, path,
+                                     [&](const QJsonObject &frame, const JsonPath &place) {
+                                         return readFrame(frame, place, screen);
+                                     });
     keepUnknown(screen, ProgrammeKeys::Unknown, rest);
     return isRead;
 }
@@ -129,16 +130,16 @@ bool ProgrammeReader::readFrame(const QJsonObject &object, const JsonPath &path,
     QJsonObject rest = object;
     QJsonObject border;
     const QString fallback = QStringLiteral("Frame %1").arg(parent->ChildNodes().size());
-    const bool isRead = readName(&rest, path, frame, fallback)
-        && readMembers(ProgrammeSchema::frameMembers(), &rest, path, frame)
-        && takeObject(ProgrammeKeys::Border, &rest, path, &border)
-        && readMembers(ProgrammeSchema::borderMembers(), &border, path.key(ProgrammeKeys::Border),
-                       frame)
-        && readAttributes(&rest, path, frame)
-        && readChildren(ProgrammeKeys::Items, &rest, path,
-                        [&](const QJsonObject &item, const JsonPath &place) {
-                            return readItem(item, place, frame);
-                        });
+    const bool isRead = readName(&rest, path, frame, fallback) &&
+                        readMembers(ProgrammeSchema::frameMembers(), &rest, path, frame) &&
+                        takeObject(ProgrammeKeys::Border, &rest, path, &border) &&
+                        readMembers(ProgrammeSchema::borderMembers(), &border,
+                                    path.key(ProgrammeKeys::Border), frame) &&
+                        readAttributes(&rest, path, frame) &&
+                        readChildren(ProgrammeKeys::Items, &rest, path,
+                                     [&](const QJsonObject &item, const JsonPath &place) {
+                                         return readItem(item, place, frame);
+                                     });
     keepUnknown(frame, ProgrammeKeys::UnknownOfBorder, border);
     keepUnknown(frame, ProgrammeKeys::Unknown, rest);
     return isRead;
@@ -155,8 +156,8 @@ bool ProgrammeReader::readItem(const QJsonObject &object, const JsonPath &path, 
     auto *item = new LTextEffectNode;
     parent->AppendChild(item);
     const QString fallback = QStringLiteral("Text %1").arg(parent->ChildNodes().size());
-    const bool isRead = readName(&rest, path, item, fallback)
-        && readAttributes(&rest, path, item) && readDocument(&rest, path, item);
+    const bool isRead = readName(&rest, path, item, fallback) &&
+                        readAttributes(&rest, path, item) && readDocument(&rest, path, item);
     keepUnknown(item, ProgrammeKeys::Unknown, rest);
     return isRead;
 }

@@ -14,7 +14,9 @@ class LTextEffectNode;
 class ProgrammeReader
 {
 public:
-    explicit ProgrammeReader(const QByteArray &bytes) : m_bytes(bytes) {}
+    explicit ProgrammeReader(const QByteArray &bytes)
+        : m_bytes(bytes)
+    {}
 
     [[nodiscard]] ReadProgramme read();
 

@@ -27,7 +27,7 @@ constexpr Kind kindOf()
 const QHash<QString, Kind> &attributeKinds()
 {
     static const QHash<QString, Kind> kinds{
-#define NODE_ATTRIBUTE(Class, Type, Getter, Setter, Key, Default) \
+#define NODE_ATTRIBUTE(Class, Type, Getter, Setter, Key, Default)                                  \
     {QStringLiteral(Key), kindOf<Type>()},
 #include "nodeattributes.def"
 #undef NODE_ATTRIBUTE
@@ -88,8 +88,9 @@ QString fault(Kind kind, const QJsonValue &value)
     }
     case Side:
         return isWhole && number >= 1 && number <= LongestSide
-            ? QString()
-            : QStringLiteral("it must be a whole number of pixels from 1 to %1").arg(LongestSide);
+                   ? QString()
+                   : QStringLiteral("it must be a whole number of pixels from 1 to %1")
+                         .arg(LongestSide);
     }
     return {};
 }

@@ -14,7 +14,8 @@ QString overview()
         "Needs no display.\n"
         "\n"
         "usage: pagerender render PROGRAMME -o DIR [options]   write every page as a PNG file\n"
-        "       pagerender check PROGRAMME [options]           say what would not be shown as meant\n"
+        "       pagerender check PROGRAMME [options]           say what would not be shown as "
+        "meant\n"
         "       pagerender help COMMAND                        the options of a command\n"
         "       pagerender --version\n"
         "\n"
@@ -96,8 +97,8 @@ CommandLine helpFor(const QString &topic)
     if (topic == QLatin1String("check")) {
         return answer(CommandLine::Help, checkHelp());
     }
-    return mistake(QStringLiteral("there is no command \"%1\"; pagerender --help lists them")
-                       .arg(topic));
+    return mistake(
+        QStringLiteral("there is no command \"%1\"; pagerender --help lists them").arg(topic));
 }
 
 /** Reads "WxH"; an error text when it is no page size, else empty. */
@@ -111,7 +112,8 @@ QString readSize(const QString &text, QSize *size)
     }
     *size = QSize(match.captured(1).toInt(), match.captured(2).toInt());
     if (!lctrlsex::isPageSize(*size)) {
-        return QStringLiteral("--size %1: both sides must be from 1 to %2 pixels, %3 million in all")
+        return QStringLiteral(
+                   "--size %1: both sides must be from 1 to %2 pixels, %3 million in all")
             .arg(text)
             .arg(lctrlsex::LongestPageSide)
             .arg(lctrlsex::MostPagePixels / 1000000);
@@ -143,8 +145,8 @@ QString programmeProblem(const QStringList &files)
                               "input");
     }
     return files.size() == 1
-        ? QString()
-        : QStringLiteral("one programme at a time; \"%1\" is too much").arg(files.at(1));
+               ? QString()
+               : QStringLiteral("one programme at a time; \"%1\" is too much").arg(files.at(1));
 }
 
 CommandLine readCommand(CommandLine::Command command, const QStringList &arguments)
@@ -192,7 +194,8 @@ CommandLine readCommandLine(const QStringList &arguments)
 {
     const QString command = arguments.value(0);
     if (command.isEmpty()) {
-        return mistake(QStringLiteral("say what to do: render or check; pagerender --help explains"));
+        return mistake(
+            QStringLiteral("say what to do: render or check; pagerender --help explains"));
     }
     if (command == QLatin1String("--help") || command == QLatin1String("-h")) {
         return helpFor(QString());

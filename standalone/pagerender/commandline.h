@@ -10,11 +10,11 @@ struct CommandLine
     enum Command { Help, Version, Render, Check, Mistake };
 
     Command command = Mistake;
-    QString text;          ///< Help or Version: to be printed. Mistake: what is wrong, one line.
-    QString programme;     ///< File name, or "-" for standard input.
-    QString outputFolder;  ///< Render only.
-    QStringList items;     ///< Names or places of the items wanted; empty: all.
-    QSize size;            ///< In place of every item's own; invalid: their own.
+    QString text;           ///< Help or Version: to be printed. Mistake: what is wrong, one line.
+    QString programme;      ///< File name, or "-" for standard input.
+    QString outputFolder;   ///< Render only.
+    QStringList items;      ///< Names or places of the items wanted; empty: all.
+    QSize size;             ///< In place of every item's own; invalid: their own.
     bool isLenient = false; ///< Render: make pages although something is not as meant.
     bool asJson = false;
     bool isQuiet = false;

@@ -17,14 +17,23 @@ void print(FILE *stream, const QString &text)
     std::fputs(text.toUtf8().constData(), stream);
 }
 
+/** Standard error holds one line a problem; what libraries remark goes nowhere. */
+void showOwnMessages(QtMsgType type, const QMessageLogContext &context, const QString &message)
+{
+    const QLatin1String category(context.category);
+    if (type == QtFatalMsg || category.startsWith(QLatin1String("lctrlsex."))) {
+        print(stderr, QStringLiteral("%1: %2\n").arg(category, message));
+    }
+}
+
 int run(const CommandLine &line)
 {
     Report report(line.programme, line.asJson, line.isQuiet);
     const ReadProgramme read = loadProgramme(line.programme);
     bool isDone = false;
     if (read.controller == nullptr) {
-        report.problem({player::Problem::Error, read.error.placeText(), read.error.reason,
-                        read.error.remedy});
+        report.problem(
+            {player::Problem::Error, read.error.placeText(), read.error.reason, read.error.remedy});
     } else if (line.command == CommandLine::Render) {
         isDone = renderProgramme(read.controller.get(), line, &report);
     } else {
@@ -60,9 +69,7 @@ int main(int argc, char **argv)
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
         qputenv("QT_QPA_PLATFORM", "offscreen");
     }
-    if (!qEnvironmentVariableIsSet("XDG_RUNTIME_DIR")) {
-        qputenv("XDG_RUNTIME_DIR", QByteArray()); // Qt would write a line about choosing one
-    }
+    qInstallMessageHandler(showOwnMessages);
     QGuiApplication application(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("pagerender"));
     return run(line);

@@ -12,8 +12,9 @@ QString fileStem(const QString &name)
 {
     QString stem;
     for (const QChar c : name.normalized(QString::NormalizationForm_C).trimmed()) {
-        const bool isPlain = c.isLetterOrNumber() || c.isMark() || c.isSurrogate()
-            || c == QLatin1Char('-') || c == QLatin1Char('_') || c == QLatin1Char(' ');
+        const bool isPlain = c.isLetterOrNumber() || c.isMark() || c.isSurrogate() ||
+                             c == QLatin1Char('-') || c == QLatin1Char('_') ||
+                             c == QLatin1Char(' ');
         stem += isPlain ? c : QLatin1Char('_');
     }
     stem.truncate(LongestStem);

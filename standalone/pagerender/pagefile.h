@@ -1,7 +1,7 @@
 #pragma once
 
-#include <QSet>
 #include <QImage>
+#include <QSet>
 #include <QString>
 
 /** Gives every page a file name that file systems take and no two items share. */

@@ -3,7 +3,7 @@
 #include "commandline.h"
 #include "itemcheck.h"
 #include "itemrenderer.h"
-#include "lnode.h"
+#include "lcontrollernode.h"
 #include "ltexteffectnode.h"
 #include "pagefile.h"
 #include "programmeitems.h"
@@ -37,9 +37,8 @@ QVector<player::ProgrammeItem> wantedItems(LControllerNode *programme, const Com
         }
     }
     for (const QString &name : line.items) {
-        const bool isKnown = std::any_of(all.begin(), all.end(), [&name](const auto &item) {
-            return isWanted(item, {name});
-        });
+        const bool isKnown = std::any_of(
+            all.begin(), all.end(), [&name](const auto &item) { return isWanted(item, {name}); });
         if (!isKnown) {
             QStringList names;
             for (const player::ProgrammeItem &item : all) {
@@ -66,7 +65,10 @@ Problems asWarnings(Problems problems)
 class PageWriter
 {
 public:
-    PageWriter(const CommandLine &line, Report *report) : m_line(line), m_report(report) {}
+    PageWriter(const CommandLine &line, Report *report)
+        : m_line(line)
+        , m_report(report)
+    {}
 
     bool prepareFolder()
     {
@@ -122,7 +124,8 @@ bool renderProgramme(LControllerNode *programme, const CommandLine &line, Report
     }
     const QVector<player::ProgrammeItem> items = wantedItems(programme, line, report);
     if (items.isEmpty() && report->errorCount() == 0) {
-        report->problem({Problem::Error, QString(), QStringLiteral("there is no text item to render"),
+        report->problem({Problem::Error, QString(),
+                         QStringLiteral("there is no text item to render"),
                          QStringLiteral("add one to a frame of a screen")});
     }
     for (int i = 0; i < items.size(); ++i) {

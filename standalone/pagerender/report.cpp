@@ -19,8 +19,8 @@ void print(FILE *stream, const QString &text)
 QString oneLine(QString text)
 {
     for (QChar &c : text) {
-        if (c.category() == QChar::Other_Control || c == QChar::LineSeparator
-            || c == QChar::ParagraphSeparator) {
+        if (c.category() == QChar::Other_Control || c == QChar::LineSeparator ||
+            c == QChar::ParagraphSeparator) {
             c = QLatin1Char(' ');
         }
     }
@@ -34,8 +34,7 @@ Report::Report(const QString &file, bool asJson, bool isQuiet)
     , m_asJson(asJson)
     , m_isQuiet(isQuiet)
     , m_onTerminal(isatty(STDERR_FILENO) == 1)
-{
-}
+{}
 
 void Report::problem(const player::Problem &problem)
 {
@@ -55,8 +54,8 @@ void Report::problem(const player::Problem &problem)
         parts.append(problem.place);
     }
     const QString kind = isError ? QString() : QStringLiteral("warning: ");
-    parts.append(kind + problem.reason
-                 + (problem.remedy.isEmpty() ? QString() : QStringLiteral("; ") + problem.remedy));
+    parts.append(kind + problem.reason +
+                 (problem.remedy.isEmpty() ? QString() : QStringLiteral("; ") + problem.remedy));
     print(stderr, oneLine(parts.join(QStringLiteral(": "))) + QLatin1Char('\n'));
 }
 

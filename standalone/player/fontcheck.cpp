@@ -48,16 +48,16 @@ QStringList missingFamilies(const QTextDocument &document)
     forEachRun(document, [&](const QString &, const QTextCharFormat &format) {
         // A list of families names its own substitutes, so the first installed one is as meant.
         const QFont font = format.font().resolve(document.defaultFont());
-        const QStringList families = font.families().isEmpty() ? QStringList(font.family())
-                                                               : font.families();
+        const QStringList families =
+            font.families().isEmpty() ? QStringList(font.family()) : font.families();
         const QString wanted = families.constFirst();
         if (seen.contains(wanted)) {
             return;
         }
         seen.insert(wanted);
-        const bool isThere = std::any_of(
-            families.begin(), families.end(),
-            [&database](const QString &family) { return database.hasFamily(family); });
+        const bool isThere =
+            std::any_of(families.begin(), families.end(),
+                        [&database](const QString &family) { return database.hasFamily(family); });
         if (!isThere) {
             missing.append(wanted);
         }

@@ -34,7 +34,9 @@ QString quoted(QString text)
 class Checker
 {
 public:
-    explicit Checker(ItemRenderer *item) : m_item(item) {}
+    explicit Checker(ItemRenderer *item)
+        : m_item(item)
+    {}
 
     Problems run()
     {
@@ -51,8 +53,8 @@ private:
 
     void warn(const QString &part, const QString &reason, const QString &remedy)
     {
-        m_problems.append({Problem::Warning, m_item->place() + QStringLiteral(": ") + part, reason,
-                           remedy});
+        m_problems.append(
+            {Problem::Warning, m_item->place() + QStringLiteral(": ") + part, reason, remedy});
     }
 
     void checkCharacters()
@@ -69,8 +71,8 @@ private:
         }
         const int more = missing.size() - names.size();
         warn(tr("characters"),
-             tr("no installed font shows %1").arg(names.join(QStringLiteral(", ")))
-                 + (more > 0 ? tr(" and %1 more").arg(more) : QString()),
+             tr("no installed font shows %1").arg(names.join(QStringLiteral(", "))) +
+                 (more > 0 ? tr(" and %1 more").arg(more) : QString()),
              tr("install a font that has them or choose other characters"));
     }
 
@@ -78,8 +80,8 @@ private:
     void checkLines(const QTextBlock &block)
     {
         const QTextLayout *layout = block.layout();
-        const QPointF origin
-            = document().documentLayout()->blockBoundingRect(block).topLeft() - layout->position();
+        const QPointF origin =
+            document().documentLayout()->blockBoundingRect(block).topLeft() - layout->position();
         for (int i = 0; i < layout->lineCount(); ++i) {
             QRectF ink;
             const QTextLine line = layout->lineAt(i);
@@ -126,8 +128,8 @@ private:
 
     void checkImage(const QTextImageFormat &format, int position)
     {
-        QTextObjectInterface *handler
-            = document().documentLayout()->handlerForObject(QTextFormat::ImageObject);
+        QTextObjectInterface *handler =
+            document().documentLayout()->handlerForObject(QTextFormat::ImageObject);
         const QSizeF size = handler->intrinsicSize(&document(), position, format);
         if (size.width() > m_item->size().width() || size.height() > m_item->size().height()) {
             warn(tr("image %1").arg(format.name().left(TextShown)),

@@ -32,7 +32,9 @@ ItemRenderer::ItemRenderer(LTextEffectNode *node, const QString &place, const QS
     }
     if (!isPageSize(m_style.size)) {
         problem(Problem::Error, tr("size"),
-                tr("%1 x %2 pixels is no page size").arg(m_style.size.width()).arg(m_style.size.height()),
+                tr("%1 x %2 pixels is no page size")
+                    .arg(m_style.size.width())
+                    .arg(m_style.size.height()),
                 tr("give both sides from 1 to %1 pixels, %2 million in all")
                     .arg(LongestPageSide)
                     .arg(MostPagePixels / 1000000));

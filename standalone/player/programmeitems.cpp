@@ -9,10 +9,10 @@ namespace {
 
 void collect(const LNode *node, const QString &above, QVector<ProgrammeItem> *items)
 {
-    const QVector<LNode *> children = node->ChildNodes();
+    const QList<LNode *> children = node->ChildNodes();
     for (LNode *child : children) {
-        const QString place = above + (above.isEmpty() ? QString() : QStringLiteral("/"))
-            + child->name();
+        const QString place =
+            above + (above.isEmpty() ? QString() : QStringLiteral("/")) + child->name();
         if (auto *item = qobject_cast<LTextEffectNode *>(child)) {
             items->append({item, place});
         }

@@ -97,7 +97,8 @@ void TestItemDocument::resources()
 void TestItemDocument::deniedIsToldOncePerLoad()
 {
     ItemDocument document;
-    const QString html = QStringLiteral("<p><img src=\"canary.png\"/><img src=\"canary.png\"/></p>");
+    const QString html =
+        QStringLiteral("<p><img src=\"canary.png\"/><img src=\"canary.png\"/></p>");
     document.loadItem(html, {});
     document.setTextWidth(100);
     document.setTextWidth(200);
@@ -136,7 +137,8 @@ void TestItemDocument::spacing()
 
 void TestItemDocument::spacingReachesAllText()
 {
-    const QString html = QStringLiteral("<p>One <b>two</b></p><table><tr><td>cell</td></tr></table>");
+    const QString html =
+        QStringLiteral("<p>One <b>two</b></p><table><tr><td>cell</td></tr></table>");
     for (const bool single : {false, true}) {
         TextSettings settings;
         settings.fontSpace = 7;

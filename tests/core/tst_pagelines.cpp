@@ -95,8 +95,8 @@ void TestPageLines::noLineIsCut_data()
     QTest::newRow("spaced") << QStringLiteral("<p style=\"line-height:170%\">%1</p>")
                                    .arg(QStringLiteral("word and word ").repeated(60));
     QTest::newRow("table between") << lines(4) + rows(15, QStringLiteral("Gg<br/>Gg")) + lines(4);
-    QTest::newRow("list") << QStringLiteral("<ul><li>%1</li></ul>")
-                                 .arg(QStringLiteral("item text ").repeated(50));
+    QTest::newRow("list")
+        << QStringLiteral("<ul><li>%1</li></ul>").arg(QStringLiteral("item text ").repeated(50));
 }
 
 void TestPageLines::noLineIsCut()
@@ -115,9 +115,10 @@ void TestPageLines::noLineIsCut()
             for (int i = 0; i < block.layout()->lineCount() && block.length() > 1; ++i) {
                 const qreal top = y + block.layout()->lineAt(i).y();
                 const qreal bottom = top + block.layout()->lineAt(i).height();
-                const auto whole = std::count_if(
-                    slices.begin(), slices.end(), [=](const PageSlice &slice) {
-                        return slice.cut || (slice.top <= top + 0.5 && slice.bottom >= bottom - 0.5);
+                const auto whole =
+                    std::count_if(slices.begin(), slices.end(), [=](const PageSlice &slice) {
+                        return slice.cut ||
+                               (slice.top <= top + 0.5 && slice.bottom >= bottom - 0.5);
                     });
                 QVERIFY2(whole == 1, qPrintable(block.text()));
             }

@@ -1,3 +1,4 @@
+#include "documentsetup.h"
 #include "itemdocument.h"
 #include "pagelines.h"
 #include "pagerenderer.h"
@@ -8,6 +9,7 @@
 #include <QPalette>
 #include <QTextBlock>
 #include <QTextCursor>
+#include <QTextLayout>
 #include <QTextTable>
 #include <QtTest>
 
@@ -33,17 +35,29 @@ QString table(int rows)
 {
     QString html = QStringLiteral("<table border=\"1\" cellpadding=\"2\" cellspacing=\"0\">");
     for (int i = 0; i < rows; ++i) {
-        html += QStringLiteral("<tr><td width=\"60\">%1</td><td width=\"120\">Platform %1</td></tr>")
-                    .arg(i);
+        html +=
+            QStringLiteral("<tr><td width=\"60\">%1</td><td width=\"120\">Platform %1</td></tr>")
+                .arg(i);
     }
     return html + QStringLiteral("</table>");
+}
+
+/** A document as a view edits it, with sizes in points. */
+void loadForEditing(ItemDocument *document, const QString &html, const TextSettings &settings = {})
+{
+    prepareView(document, settings);
+    document->setHtml(html);
+    applyLetterSpacing(document, settings);
 }
 
 /** What a page must look like: the whole document, laid out apart from any view. */
 QImage drawnFromClone(const QTextDocument &document, const PageStyle &style)
 {
     QScopedPointer<QTextDocument> clone(document.clone());
-    prepareLayout(clone.data());
+    TextSettings settings;
+    settings.fontSize = document.defaultFont().pointSize();
+    preparePage(clone.data(), settings);
+    pointsToPixels(clone.data());
     clone->setTextWidth(style.size.width());
     return drawTop(clone.data(), style);
 }
@@ -55,6 +69,7 @@ class TestPageRenderer : public QObject
     Q_OBJECT
 private slots:
     void pointIsPixel();
+    void lengthsArePixels();
     void topEqualsWholeDocument_data();
     void topEqualsWholeDocument();
     void editsBelowThePageCostNothing();
@@ -68,19 +83,53 @@ private slots:
 
 void TestPageRenderer::pointIsPixel()
 {
-    const QString text = QStringLiteral("<p style=\"font-family:'DejaVu Sans'; font-size:16%1\">"
-                                        "Departures<br/>Arrivals</p>");
-    ItemDocument points;
-    points.loadItem(text.arg(QStringLiteral("pt")), {});
-    ItemDocument pixels;
-    pixels.loadItem(text.arg(QStringLiteral("px")), {});
-    points.setTextWidth(200);
-    pixels.setTextWidth(200);
-    QCOMPARE(points.size(), pixels.size());
+    const QString text =
+        QStringLiteral("<p style=\"font-family:'DejaVu Sans'; font-size:16%1\">"
+                       "Departures<br/>Arrivals</p><p style=\"font-size:20%1\"></p>");
+    const QString points = text.arg(QStringLiteral("pt"));
+    const QString pixels = text.arg(QStringLiteral("px"));
     PageStyle style;
-    style.size = QSize(200, 60);
+    style.size = QSize(200, 80);
     style.isTransparent = true;
-    QCOMPARE(drawTop(&points, style), drawTop(&pixels, style));
+
+    ItemDocument inPoints;
+    inPoints.loadItem(points, {});
+    ItemDocument inPixels;
+    inPixels.loadItem(pixels, {});
+    inPoints.setTextWidth(200);
+    inPixels.setTextWidth(200);
+    QCOMPARE(inPoints.size(), inPixels.size());
+    const QImage page = drawTop(&inPixels, style);
+    QCOMPARE(drawTop(&inPoints, style), page);
+
+    ItemDocument edited;
+    loadForEditing(&edited, points);
+    edited.setTextWidth(200);
+    QCOMPARE(edited.firstBlock().layout()->lineAt(0).height(),
+             inPixels.firstBlock().layout()->lineAt(0).height());
+    QCOMPARE(PageRenderer().topPage(&edited, style), page);
+    QCOMPARE(edited.firstBlock().begin().fragment().charFormat().fontPointSize(), 16.0);
+}
+
+void TestPageRenderer::lengthsArePixels()
+{
+    ItemDocument document;
+    document.loadItem(QStringLiteral("<table border=\"0\" cellspacing=\"0\" cellpadding=\"0\" "
+                                     "width=\"300\"><tr><td width=\"100\"></td>"
+                                     "<td width=\"200\"></td></tr></table>"
+                                     "<p style=\"margin-left:24px\">x</p>"),
+                      {});
+    document.setTextWidth(384);
+    const auto *layout = document.documentLayout();
+    const auto *grid = qobject_cast<QTextTable *>(document.rootFrame()->childFrames().constFirst());
+    QCOMPARE(layout->frameBoundingRect(document.rootFrame()->childFrames().constFirst()).width(),
+             300.0);
+    const qreal left =
+        layout->blockBoundingRect(grid->cellAt(0, 0).firstCursorPosition().block()).x();
+    const qreal right =
+        layout->blockBoundingRect(grid->cellAt(0, 1).firstCursorPosition().block()).x();
+    QCOMPARE(right - left, 100.0);
+    QCOMPARE(document.lastBlock().layout()->lineAt(0).x(), 24.0);
 }
 
 void TestPageRenderer::topEqualsWholeDocument_data()
@@ -91,27 +140,27 @@ void TestPageRenderer::topEqualsWholeDocument_data()
     QTest::newRow("empty") << QString() << 0;
     QTest::newRow("one line") << paragraphs(1) << 0;
     QTest::newRow("first block centred")
-        << QStringLiteral("<p align=\"center\" style=\"line-height:150%;margin-top:9px\">Top</p>")
-            + paragraphs(3)
+        << QStringLiteral("<p align=\"center\" style=\"line-height:150%;margin-top:9px\">Top</p>") +
+               paragraphs(3)
         << 0;
     QTest::newRow("many pages") << paragraphs(400) << 0;
     QTest::newRow("letter spacing") << paragraphs(40) << 5;
     QTest::newRow("justified and indented") << paragraphs(40, justified) << 0;
     QTest::newRow("right to left")
-        << QStringLiteral("<p dir=\"rtl\">\u0645\u0631\u062d\u0628\u0627 platform 3</p>")
-            + paragraphs(60)
+        << QStringLiteral("<p dir=\"rtl\">\u0645\u0631\u062d\u0628\u0627 platform 3</p>") +
+               paragraphs(60)
         << 0;
-    QTest::newRow("list")
-        << QStringLiteral("<ol><li>First</li><li>Second<ul><li>Inner</li></ul></li></ol>")
-            + paragraphs(60)
-        << 0;
+    QTest::newRow("list") << QStringLiteral(
+                                 "<ol><li>First</li><li>Second<ul><li>Inner</li></ul></li></ol>") +
+                                 paragraphs(60)
+                          << 0;
     QTest::newRow("table first") << table(4) + paragraphs(60) << 0;
     QTest::newRow("table inside") << paragraphs(2) + table(30) + paragraphs(60) << 0;
     QTest::newRow("table only") << table(50) << 0;
-    QTest::newRow("image")
-        << QStringLiteral("<p>A <img src=\"data://bindKey/weather/now.png\"/> B</p>")
-            + paragraphs(60)
-        << 0;
+    QTest::newRow("image") << QStringLiteral(
+                                  "<p>A <img src=\"data://bindKey/weather/now.png\"/> B</p>") +
+                                  paragraphs(60)
+                           << 0;
     QTest::newRow("background and rule")
         << QStringLiteral("<p style=\"background-color:#203040\">Note</p><hr/>") + paragraphs(60)
         << 0;
@@ -124,7 +173,7 @@ void TestPageRenderer::topEqualsWholeDocument()
     TextSettings settings;
     settings.fontSpace = fontSpace;
     ItemDocument document;
-    document.loadItem(html, settings);
+    loadForEditing(&document, html, settings);
     QImage field(40, 18, QImage::Format_ARGB32);
     field.fill(Qt::yellow);
     document.addResource(QTextDocument::ImageResource,
@@ -142,7 +191,8 @@ void TestPageRenderer::topEqualsWholeDocument()
     }
     PageStyle style;
     style.size = QSize(256, 64);
-    for (const int position : {0, 5, document.characterCount() / 2, document.characterCount() - 1}) {
+    for (const int position :
+         {0, 5, document.characterCount() / 2, document.characterCount() - 1}) {
         QTextCursor cursor(&document);
         cursor.setPosition(qMin(position, document.characterCount() - 1));
         cursor.insertText(QStringLiteral("+"));
@@ -153,7 +203,7 @@ void TestPageRenderer::topEqualsWholeDocument()
 void TestPageRenderer::editsBelowThePageCostNothing()
 {
     ItemDocument document;
-    document.loadItem(paragraphs(300), {});
+    loadForEditing(&document, paragraphs(300));
     TopBlocks top;
     const QSize size(256, 64);
     QPointer<QTextDocument> before = top.documentFor(&document, size);
@@ -170,7 +220,7 @@ void TestPageRenderer::editsBelowThePageCostNothing()
 void TestPageRenderer::viewsOwnLayoutIsLeftAlone()
 {
     ItemDocument document;
-    document.loadItem(paragraphs(50), {});
+    loadForEditing(&document, paragraphs(50));
     document.setTextWidth(700);
     QSignalSpy layouts(document.documentLayout(),
                        &QAbstractTextDocumentLayout::documentSizeChanged);
@@ -200,7 +250,7 @@ void TestPageRenderer::impossibleSizesGiveNoPage()
     QFETCH(QSize, size);
     QFETCH(bool, possible);
     ItemDocument document;
-    document.loadItem(paragraphs(2), {});
+    loadForEditing(&document, paragraphs(2));
     PageRenderer renderer;
     PageStyle style;
     style.size = size;
@@ -211,7 +261,7 @@ void TestPageRenderer::impossibleSizesGiveNoPage()
 void TestPageRenderer::paletteIsNotSeen()
 {
     ItemDocument document;
-    document.loadItem(QStringLiteral("<p>Plain</p>"), {});
+    loadForEditing(&document, QStringLiteral("<p>Plain</p>"));
     PageStyle style;
     style.size = QSize(100, 40);
     style.background = Qt::white;
@@ -229,7 +279,7 @@ void TestPageRenderer::paletteIsNotSeen()
 void TestPageRenderer::groundAndAlpha()
 {
     ItemDocument document;
-    document.loadItem(QString(), {});
+    loadForEditing(&document, QString());
     PageRenderer renderer;
     PageStyle style;
     style.size = QSize(8, 8);

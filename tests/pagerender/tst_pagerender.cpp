@@ -102,9 +102,9 @@ private slots:
 void TestPagerender::rendersTheDemo()
 {
     QTemporaryDir folder;
-    const Outcome outcome = pagerender({QStringLiteral("render"),
-                                        source(QStringLiteral("examples/demo.programme.json")),
-                                        QStringLiteral("-o"), folder.filePath(QStringLiteral("a/b"))});
+    const Outcome outcome = pagerender(
+        {QStringLiteral("render"), source(QStringLiteral("examples/demo.programme.json")),
+         QStringLiteral("-o"), folder.filePath(QStringLiteral("a/b"))});
     QCOMPARE(outcome.err, QString());
     QCOMPARE(outcome.status, 0);
     const QStringList files = outcome.out.split(QLatin1Char('\n'), Qt::SkipEmptyParts);
@@ -148,9 +148,9 @@ void TestPagerender::pagesAreTheSameEveryTime()
 void TestPagerender::readsStandardInput()
 {
     QTemporaryDir folder;
-    const Outcome outcome = pagerender({QStringLiteral("render"), QStringLiteral("-"),
-                                        QStringLiteral("-o"), folder.path()},
-                                       documentProgramme(dejavu(QStringLiteral("Hello"))));
+    const Outcome outcome = pagerender(
+        {QStringLiteral("render"), QStringLiteral("-"), QStringLiteral("-o"), folder.path()},
+        documentProgramme(dejavu(QStringLiteral("Hello"))));
     QCOMPARE(outcome.err, QString());
     QCOMPARE(outcome.out.trimmed(), folder.filePath(QStringLiteral("Item-1.png")));
 }
@@ -175,8 +175,10 @@ void TestPagerender::jsonReport()
                                     QStringLiteral("-o"), folder.path(), QStringLiteral("--json")},
                                    "{");
     QCOMPARE(bad.status, 1);
-    const QJsonArray problems
-        = QJsonDocument::fromJson(bad.out.toUtf8()).object().value(QStringLiteral("problems")).toArray();
+    const QJsonArray problems = QJsonDocument::fromJson(bad.out.toUtf8())
+                                    .object()
+                                    .value(QStringLiteral("problems"))
+                                    .toArray();
     QCOMPARE(problems.size(), 1);
     QCOMPARE(problems.at(0).toObject().value(QStringLiteral("severity")).toString(),
              QStringLiteral("error"));
@@ -206,7 +208,8 @@ void TestPagerender::commandLine_data()
     QTest::addColumn<QStringList>("arguments");
     QTest::addColumn<int>("status");
     QTest::addColumn<QString>("says");
-    const auto row = [](const char *name, const QString &arguments, int status, const QString &says) {
+    const auto row = [](const char *name, const QString &arguments, int status,
+                        const QString &says) {
         QTest::newRow(name) << arguments.split(QLatin1Char(' '), Qt::SkipEmptyParts) << status
                             << says;
     };
@@ -240,10 +243,13 @@ void TestPagerender::badInput_data()
 {
     QTest::addColumn<QByteArray>("input");
     QTest::addColumn<QString>("says");
-    const auto document = [](const QString &html) { return documentProgramme(html); };
+    const auto document = [](const QString &html) {
+        return documentProgramme(html);
+    };
     QTest::newRow("empty") << QByteArray() << "line 1, column 1";
     QTest::newRow("cut short") << documentProgramme("x").left(60) << "line ";
-    QTest::newRow("text behind the end") << documentProgramme("x") + "}" << "line ";
+    QTest::newRow("text behind the end") << documentProgramme("x") + "}"
+                                         << "line ";
     QTest::newRow("number beyond all bounds") << QByteArray("{\n  \"version\": 1e400}") << "line 2";
     QTest::newRow("not UTF-8") << QByteArray("{\"name\": \"\xff\xfe\"}") << "line 1";
     QTest::newRow("another format") << QByteArray("{\"format\": \"x\"}") << "format";
@@ -261,20 +267,21 @@ void TestPagerender::badInput_data()
         << programme({{"attributes", QJsonObject{{"ContentAlign", "middle"}}}}) << "ContentAlign";
     QTest::newRow("broken Base64")
         << programme({{"attributes", QJsonObject{{"RawHtml", "PGI+*"}}}}) << "Screen/Frame/Item";
-    QTest::newRow("cut Base64")
-        << programme({{"attributes", QJsonObject{{"RawHtml", "PGI+a"}}}}) << "Screen/Frame/Item";
+    QTest::newRow("cut Base64") << programme({{"attributes", QJsonObject{{"RawHtml", "PGI+a"}}}})
+                                << "Screen/Frame/Item";
     QTest::newRow("deep tables") << document(QString("<table><tr><td>").repeated(50)) << "table";
-    QTest::newRow("missing font")
-        << document("<p style=\"font-family:'No Such Font'\">x</p>") << "font No Such Font";
+    QTest::newRow("missing font") << document("<p style=\"font-family:'No Such Font'\">x</p>")
+                                  << "font No Such Font";
     QTest::newRow("file image") << document("<img src=\"/etc/hostname\">") << "/etc/hostname";
     QTest::newRow("web image") << document("<img src=\"http://127.0.0.1/a.png\">") << "image";
     QTest::newRow("image lies about its size")
-        << document("<img src=\"data:image/png;base64,iVBORw0KGgoAAAANSUhEUgAAdTAAAHUwCAIAAAAAAAAA\">")
+        << document(
+               "<img src=\"data:image/png;base64,iVBORw0KGgoAAAANSUhEUgAAdTAAAHUwCAIAAAAAAAAA\">")
         << "image";
-    QTest::newRow("svg image")
-        << document("<img src=\"data:image/svg+xml;base64,PHN2Zy8+\">") << "image";
-    QTest::newRow("no item")
-        << QByteArray("{\"format\": \"lctrlsex-programme\", \"version\": 1}") << "no text item";
+    QTest::newRow("svg image") << document("<img src=\"data:image/svg+xml;base64,PHN2Zy8+\">")
+                               << "image";
+    QTest::newRow("no item") << QByteArray("{\"format\": \"lctrlsex-programme\", \"version\": 1}")
+                             << "no text item";
 }
 
 void TestPagerender::badInput()
@@ -285,7 +292,8 @@ void TestPagerender::badInput()
     QElapsedTimer timer;
     timer.start();
     const Outcome outcome = pagerender(
-        {QStringLiteral("render"), QStringLiteral("-"), QStringLiteral("-o"), folder.path()}, input);
+        {QStringLiteral("render"), QStringLiteral("-"), QStringLiteral("-o"), folder.path()},
+        input);
     QCOMPARE(outcome.status, 1);
     QVERIFY2(outcome.err.startsWith(QStringLiteral("standard input: ")), qPrintable(outcome.err));
     QVERIFY2(outcome.err.contains(says), qPrintable(outcome.err));
@@ -298,10 +306,11 @@ void TestPagerender::badInput()
 void TestPagerender::lenientMakesThePage()
 {
     QTemporaryDir folder;
-    const Outcome outcome = pagerender(
-        {QStringLiteral("render"), QStringLiteral("-"), QStringLiteral("-o"), folder.path(),
-         QStringLiteral("--lenient")},
-        documentProgramme(QStringLiteral("<p style=\"font-family:'No Such Font'; color:#fff\">x</p>")));
+    const Outcome outcome =
+        pagerender({QStringLiteral("render"), QStringLiteral("-"), QStringLiteral("-o"),
+                    folder.path(), QStringLiteral("--lenient")},
+                   documentProgramme(QStringLiteral(
+                       "<p style=\"font-family:'No Such Font'; color:#fff\">x</p>")));
     QCOMPARE(outcome.status, 0);
     QVERIFY(outcome.err.contains(QStringLiteral("warning: ")));
     QVERIFY(QFile::exists(folder.filePath(QStringLiteral("Item-1.png"))));
@@ -314,7 +323,8 @@ void TestPagerender::oneBadItemLeavesTheOthers()
                                   "{\"RawHtml\": \"***\"}},");
     QTemporaryDir folder;
     const Outcome outcome = pagerender(
-        {QStringLiteral("render"), QStringLiteral("-"), QStringLiteral("-o"), folder.path()}, input);
+        {QStringLiteral("render"), QStringLiteral("-"), QStringLiteral("-o"), folder.path()},
+        input);
     QCOMPARE(outcome.status, 1);
     QVERIFY(outcome.err.contains(QStringLiteral("Screen/Frame/Bad")));
     QCOMPARE(QDir(folder.path()).entryList(QDir::Files), QStringList{QStringLiteral("Item-1.png")});
@@ -332,9 +342,9 @@ void TestPagerender::unwritableOutput_data()
 void TestPagerender::unwritableOutput()
 {
     QFETCH(QString, folder);
-    const Outcome outcome = pagerender({QStringLiteral("render"), QStringLiteral("-"),
-                                        QStringLiteral("-o"), folder},
-                                       documentProgramme(dejavu(QStringLiteral("x"))));
+    const Outcome outcome =
+        pagerender({QStringLiteral("render"), QStringLiteral("-"), QStringLiteral("-o"), folder},
+                   documentProgramme(dejavu(QStringLiteral("x"))));
     QCOMPARE(outcome.status, 1);
     QCOMPARE(outcome.err.count(QLatin1Char('\n')), 1);
     QVERIFY2(outcome.err.contains(folder), qPrintable(outcome.err));
@@ -362,8 +372,8 @@ void TestPagerender::check()
 {
     QFETCH(QString, html);
     QFETCH(QString, says);
-    const Outcome outcome = pagerender({QStringLiteral("check"), QStringLiteral("-")},
-                                       documentProgramme(html));
+    const Outcome outcome =
+        pagerender({QStringLiteral("check"), QStringLiteral("-")}, documentProgramme(html));
     QCOMPARE(outcome.status, says.isEmpty() ? 0 : 1);
     QVERIFY2(says.isEmpty() || outcome.err.contains(says), qPrintable(outcome.err));
 }

@@ -1,0 +1,152 @@
+#include "documentsetup.h"
+
+#include "itemimagehandler.h"
+
+#include <QAbstractTextDocumentLayout>
+#include <QFont>
+#include <QImage>
+#include <QTextBlock>
+#include <QTextCursor>
+#include <QTextDocument>
+#include <QVector>
+
+namespace lctrlsex {
+
+namespace {
+
+constexpr int LargestWordSpacing = 99;
+constexpr int LargestFontSize = 1000;
+constexpr int PointsPerInch = 72;
+
+/** A device on which a point is a pixel. Shared: it is only ever asked for its metrics. */
+QImage *pointDevice()
+{
+    static QImage device = [] {
+        QImage image(1, 1, QImage::Format_ARGB32);
+        const int dotsPerMeter = qRound(PointsPerInch / 0.0254);
+        image.setDotsPerMeterX(dotsPerMeter);
+        image.setDotsPerMeterY(dotsPerMeter);
+        return image;
+    }();
+    return &device;
+}
+
+QFont defaultFont(const QTextDocument &document, const TextSettings &settings)
+{
+    QFont font = document.defaultFont();
+    if (!settings.fontFamily.isEmpty()) {
+        font.setFamily(settings.fontFamily);
+    }
+    return font;
+}
+
+int fontSize(const TextSettings &settings)
+{
+    return qBound(1, settings.fontSize, LargestFontSize);
+}
+
+void prepareBoth(QTextDocument *document)
+{
+    document->setDefaultStyleSheet(QStringLiteral("a { text-decoration: none; }"));
+    QAbstractTextDocumentLayout *layout = document->documentLayout();
+    if (layout->findChild<ItemImageHandler *>() == nullptr) {
+        layout->registerHandler(QTextFormat::ImageObject, new ItemImageHandler(layout));
+    }
+    document->markContentsDirty(0, document->characterCount());
+}
+
+/** A stretch of text and the format that it is to get. */
+struct Change
+{
+    int position;
+    int length;
+    QTextCharFormat format;
+};
+
+bool inPixels(QTextCharFormat *format)
+{
+    if (!format->hasProperty(QTextFormat::FontPointSize)) {
+        return false;
+    }
+    const int pixels = qMax(1, qRound(format->fontPointSize()));
+    format->clearProperty(QTextFormat::FontPointSize);
+    format->setProperty(QTextFormat::FontPixelSize, pixels);
+    return true;
+}
+
+} // namespace
+
+bool TextSettings::operator==(const TextSettings &other) const
+{
+    return fontFamily == other.fontFamily && fontSize == other.fontSize &&
+           fontSpace == other.fontSpace && singleLine == other.singleLine;
+}
+
+qreal letterSpacing(int value)
+{
+    if (value < 0) {
+        // Kept on purpose because stored items rely on it: negative numbers count an eighth.
+        return value * 0.125;
+    }
+    return value > LargestWordSpacing ? 0 : value;
+}
+
+void applyLetterSpacing(QTextDocument *document, const TextSettings &settings)
+{
+    if (settings.singleLine || settings.fontSpace == 0 || document->isEmpty()) {
+        return;
+    }
+    QTextCharFormat format;
+    format.setFontLetterSpacingType(QFont::AbsoluteSpacing);
+    format.setFontLetterSpacing(letterSpacing(settings.fontSpace));
+    QTextCursor cursor(document);
+    cursor.select(QTextCursor::Document);
+    cursor.mergeCharFormat(format);
+}
+
+void prepareView(QTextDocument *document, const TextSettings &settings)
+{
+    QFont font = defaultFont(*document, settings);
+    font.setPointSize(fontSize(settings));
+    document->setDefaultFont(font);
+    document->documentLayout()->setPaintDevice(pointDevice());
+    prepareBoth(document);
+}
+
+void preparePage(QTextDocument *document, const TextSettings &settings)
+{
+    QFont font = defaultFont(*document, settings);
+    font.setPixelSize(fontSize(settings));
+    document->setDefaultFont(font);
+    document->documentLayout()->setPaintDevice(nullptr);
+    prepareBoth(document);
+}
+
+void pointsToPixels(QTextDocument *document)
+{
+    QVector<Change> changes;
+    QTextCursor cursor(document);
+    cursor.beginEditBlock();
+    for (QTextBlock block = document->begin(); block.isValid(); block = block.next()) {
+        QTextCharFormat empty = block.charFormat();
+        if (inPixels(&empty)) {
+            cursor.setPosition(block.position());
+            cursor.setBlockCharFormat(empty); // the height of an empty line
+        }
+        changes.clear();
+        for (auto it = block.begin(); !it.atEnd(); ++it) {
+            QTextCharFormat format = it.fragment().charFormat();
+            if (inPixels(&format)) {
+                changes.append({it.fragment().position(), it.fragment().length(), format});
+            }
+        }
+        for (const Change &change : qAsConst(changes)) {
+            cursor.setPosition(change.position);
+            cursor.setPosition(change.position + change.length, QTextCursor::KeepAnchor);
+            cursor.setCharFormat(change.format);
+        }
+    }
+    cursor.endEditBlock();
+}
+
+} // namespace lctrlsex
