@@ -25,6 +25,7 @@ struct Face
     /** Distance of the face's weight from the regular one. */
     int weightError = 0;
     bool hasChinese = false;
+    /** Made for Chinese, and with Latin letters: mixed text needs no second family. */
     bool isForChinese = false;
 };
 using Faces = QMap<QString, Face>;
@@ -84,9 +85,10 @@ Face faceOf(const FcPattern *pattern)
             FcCharSetHasChar(characters, 0x4e2d) && FcCharSetHasChar(characters, 0x6587);
     }
     FcLangSet *languages = nullptr;
-    if (FcPatternGetLangSet(pattern, FC_LANG, 0, &languages) == FcResultMatch) {
+    if (face.hasChinese && FcPatternGetLangSet(pattern, FC_LANG, 0, &languages) == FcResultMatch) {
         const auto *const chinese = reinterpret_cast<const FcChar8 *>("zh-cn");
-        face.isForChinese = FcLangSetHasLang(languages, chinese) != FcLangDifferentLang;
+        face.isForChinese = FcLangSetHasLang(languages, chinese) != FcLangDifferentLang &&
+                            FcCharSetHasChar(characters, 'A');
     }
     return face;
 }
