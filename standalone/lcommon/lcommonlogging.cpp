@@ -1,0 +1,3 @@
+#include "lcommonlogging.h"
+
+Q_LOGGING_CATEGORY(lcLcommon, "lctrlsex.lcommon", QtInfoMsg)
