@@ -21,7 +21,10 @@ public:
     /** The type text of the programme item that the frame shows: the text item's. */
     [[nodiscard]] QString ChildType() const override;
 
-    /** Place on the screen in pixels; the size is Size(), invalid until it is set. */
+    /** The frame's own size, the screen's where it has none. */
+    [[nodiscard]] QSize Size() const override;
+
+    /** Place on the screen in pixels; the size is Size(). */
     [[nodiscard]] QRect GetRect() const;
     void SetRect(const QRect &rect);
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "lcommon_global.h"
+
 #include <QByteArray>
 #include <QString>
 #include <QVector>
@@ -12,7 +14,7 @@ struct TextPlace
 };
 
 /** The way from the top of a JSON document to one of its values. */
-class JsonPath
+class LCOMMON_EXPORT JsonPath
 {
 public:
     /** The same way and one step further, into an object or an array. */
@@ -34,10 +36,10 @@ private:
 };
 
 /** Line and column of the byte at @p offset of the UTF-8 text @p bytes. */
-[[nodiscard]] TextPlace placeOfOffset(const QByteArray &bytes, int offset);
+[[nodiscard]] LCOMMON_EXPORT TextPlace placeOfOffset(const QByteArray &bytes, int offset);
 
 /**
  * Where the value at @p path starts in @p json, a well-formed JSON text. The place of the nearest
  * value above it when there is none at @p path.
  */
-[[nodiscard]] TextPlace placeOfValue(const QByteArray &json, const JsonPath &path);
+[[nodiscard]] LCOMMON_EXPORT TextPlace placeOfValue(const QByteArray &json, const JsonPath &path);

@@ -1,6 +1,7 @@
 #include "lframenode.h"
 
 #include "attributestore.h"
+#include "lscreennode.h"
 
 #include <QPointer>
 
@@ -57,6 +58,13 @@ QString LFrameNode::TypeText() const
 QString LFrameNode::ChildType() const
 {
     return QStringLiteral("Text");
+}
+
+QSize LFrameNode::Size() const
+{
+    const QSize own = LNode::Size();
+    const LScreenNode *const screen = GetScreenNode();
+    return own.isValid() || !screen ? own : screen->Size();
 }
 
 QRect LFrameNode::GetRect() const

@@ -67,11 +67,12 @@ QJsonObject writeItem(const LTextEffectNode &item)
     object.insert(ProgrammeKeys::Type, ProgrammeKeys::TextType);
     QStringList written;
     const QJsonValue document = readableDocument(item.GetRawHtmlText());
-    if (!document.isNull()) {
+    // Reading a document makes the display text too, which a new item must not have.
+    if (!document.isNull() && item.HasAttribute(ProgrammeKeys::DisplayHtml)) {
         object.insert(ProgrammeKeys::Document, document);
         written.append(ProgrammeKeys::RawHtml);
         if (item.GetHtmlText().isEmpty()) {
-            written.append(ProgrammeKeys::DisplayHtml); // reading the document makes it again
+            written.append(ProgrammeKeys::DisplayHtml);
         }
     }
     writeAttributes(item, written, &object);

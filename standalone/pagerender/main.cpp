@@ -7,28 +7,49 @@
 #include <QGuiApplication>
 
 #include <cstdio>
+#include <fcntl.h>
+#include <unistd.h>
 
 namespace {
 
 enum ExitStatus { Done = 0, Failed = 1, Misused = 2 };
+
+FILE *messages = stderr; ///< Where problems are told.
 
 void print(FILE *stream, const QString &text)
 {
     std::fputs(text.toUtf8().constData(), stream);
 }
 
-/** Standard error holds one line a problem; what libraries remark goes nowhere. */
+/**
+ * Standard error holds one line a problem. Image libraries remark on broken images there by
+ * themselves, so it is kept under another number and their remarks go nowhere.
+ */
+void takeStandardError()
+{
+    const int ours = dup(STDERR_FILENO);
+    const int nowhere = open("/dev/null", O_WRONLY | O_CLOEXEC);
+    FILE *stream = ours >= 0 ? fdopen(ours, "w") : nullptr;
+    if (stream != nullptr && nowhere >= 0) {
+        dup2(nowhere, STDERR_FILENO);
+        messages = stream;
+    }
+    if (nowhere >= 0) {
+        close(nowhere);
+    }
+}
+
 void showOwnMessages(QtMsgType type, const QMessageLogContext &context, const QString &message)
 {
     const QLatin1String category(context.category);
     if (type == QtFatalMsg || category.startsWith(QLatin1String("lctrlsex."))) {
-        print(stderr, QStringLiteral("%1: %2\n").arg(category, message));
+        print(messages, QStringLiteral("%1: %2\n").arg(category, message));
     }
 }
 
 int run(const CommandLine &line)
 {
-    Report report(line.programme, line.asJson, line.isQuiet);
+    Report report(line.programme, line.asJson, line.isQuiet, messages);
     const ReadProgramme read = loadProgramme(line.programme);
     bool isDone = false;
     if (read.controller == nullptr) {
@@ -69,6 +90,7 @@ int main(int argc, char **argv)
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
         qputenv("QT_QPA_PLATFORM", "offscreen");
     }
+    takeStandardError();
     qInstallMessageHandler(showOwnMessages);
     QGuiApplication application(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("pagerender"));

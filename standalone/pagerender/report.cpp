@@ -3,7 +3,6 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 
-#include <cstdio>
 #include <unistd.h>
 
 namespace {
@@ -29,11 +28,12 @@ QString oneLine(QString text)
 
 } // namespace
 
-Report::Report(const QString &file, bool asJson, bool isQuiet)
+Report::Report(const QString &file, bool asJson, bool isQuiet, FILE *messages)
     : m_file(file == QLatin1String("-") ? QStringLiteral("standard input") : file)
     , m_asJson(asJson)
     , m_isQuiet(isQuiet)
-    , m_onTerminal(isatty(STDERR_FILENO) == 1)
+    , m_messages(messages)
+    , m_onTerminal(isatty(fileno(messages)) == 1)
 {}
 
 void Report::problem(const player::Problem &problem)
@@ -56,7 +56,7 @@ void Report::problem(const player::Problem &problem)
     const QString kind = isError ? QString() : QStringLiteral("warning: ");
     parts.append(kind + problem.reason +
                  (problem.remedy.isEmpty() ? QString() : QStringLiteral("; ") + problem.remedy));
-    print(stderr, oneLine(parts.join(QStringLiteral(": "))) + QLatin1Char('\n'));
+    print(m_messages, oneLine(parts.join(QStringLiteral(": "))) + QLatin1Char('\n'));
 }
 
 void Report::problems(const player::Problems &problems)
@@ -83,7 +83,7 @@ void Report::progress(const QString &text)
 {
     if (m_onTerminal && !m_isQuiet) {
         clearProgress();
-        print(stderr, oneLine(text));
+        print(m_messages, oneLine(text));
         m_progressShown = true;
     }
 }
@@ -91,7 +91,7 @@ void Report::progress(const QString &text)
 void Report::clearProgress()
 {
     if (m_progressShown) {
-        print(stderr, QStringLiteral("\r\033[K"));
+        print(m_messages, QStringLiteral("\r\033[K"));
         m_progressShown = false;
     }
 }
@@ -105,6 +105,6 @@ void Report::finish(const QString &summary)
                                  {QStringLiteral("problems"), m_problems}};
         print(stdout, QString::fromUtf8(QJsonDocument(report).toJson()));
     } else if (!m_isQuiet && !summary.isEmpty()) {
-        print(stderr, summary + QLatin1Char('\n'));
+        print(m_messages, summary + QLatin1Char('\n'));
     }
 }

@@ -6,6 +6,8 @@
 #include <QSize>
 #include <QString>
 
+#include <cstdio>
+
 /** One page file that was written. */
 struct WrittenPage
 {
@@ -22,8 +24,8 @@ struct WrittenPage
 class Report
 {
 public:
-    /** @p file names the programme in every message. */
-    Report(const QString &file, bool asJson, bool isQuiet);
+    /** @p file names the programme in every message; @p messages is the standard error. */
+    Report(const QString &file, bool asJson, bool isQuiet, FILE *messages);
 
     /** A line file: place: reason; remedy. */
     void problem(const player::Problem &problem);
@@ -44,6 +46,7 @@ private:
     QString m_file;
     bool m_asJson;
     bool m_isQuiet;
+    FILE *m_messages;
     bool m_onTerminal;
     bool m_progressShown = false;
     int m_errors = 0;

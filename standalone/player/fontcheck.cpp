@@ -40,26 +40,29 @@ bool needsGlyph(uint c)
 
 } // namespace
 
-QStringList missingFamilies(const QTextDocument &document)
+QStringList missingFamilies(const QTextDocument &document, const QString &itemFamily)
 {
     const QFontDatabase database;
     QSet<QString> seen;
     QStringList missing;
-    forEachRun(document, [&](const QString &, const QTextCharFormat &format) {
+    const auto check = [&](const QStringList &families) {
         // A list of families names its own substitutes, so the first installed one is as meant.
-        const QFont font = format.font().resolve(document.defaultFont());
-        const QStringList families =
-            font.families().isEmpty() ? QStringList(font.family()) : font.families();
-        const QString wanted = families.constFirst();
-        if (seen.contains(wanted)) {
-            return;
-        }
-        seen.insert(wanted);
         const bool isThere =
             std::any_of(families.begin(), families.end(),
                         [&database](const QString &family) { return database.hasFamily(family); });
-        if (!isThere) {
-            missing.append(wanted);
+        if (!families.isEmpty() && !isThere && !seen.contains(families.constFirst())) {
+            missing.append(families.constFirst());
+        }
+        seen.insert(families.value(0));
+    };
+    if (!itemFamily.isEmpty()) {
+        check({itemFamily});
+    }
+    forEachRun(document, [&check](const QString &text, const QTextCharFormat &format) {
+        const QStringList families = format.fontFamilies().toStringList();
+        const bool isImage = text.at(0) == QChar::ObjectReplacementCharacter;
+        if (!isImage && (!families.isEmpty() || !format.fontFamily().isEmpty())) {
+            check(families.isEmpty() ? QStringList(format.fontFamily()) : families);
         }
     });
     return missing;

@@ -8,8 +8,11 @@ class QTextDocument;
 
 namespace player {
 
-/** The font families that @p document asks for and this machine lacks, each once, in order. */
-[[nodiscard]] QStringList missingFamilies(const QTextDocument &document);
+/**
+ * The font families that @p document, or the item as a whole by @p itemFamily, asks for and this
+ * machine lacks, each once, in order. Text that asks for none is as meant in any font.
+ */
+[[nodiscard]] QStringList missingFamilies(const QTextDocument &document, const QString &itemFamily);
 
 /** Characters that no installed font can show, each once, in order of appearance. */
 [[nodiscard]] QVector<uint> missingCharacters(const QTextDocument &document);

@@ -15,10 +15,18 @@ namespace {
 
 constexpr int CharactersNamed = 8;
 constexpr int TextShown = 24;
+constexpr int LeastContrast = 12;
 
 QString tr(const char *text)
 {
     return QCoreApplication::translate("ItemCheck", text);
+}
+
+/** Whether a screen shows no difference between two colours. */
+bool isAlike(const QColor &a, const QColor &b)
+{
+    return qAbs(a.red() - b.red()) < LeastContrast && qAbs(a.green() - b.green()) < LeastContrast &&
+           qAbs(a.blue() - b.blue()) < LeastContrast;
 }
 
 /** The words of a line, shortened, by which a user finds it. */
@@ -142,14 +150,11 @@ private:
 
     void checkColor(const QTextCharFormat &format, const QString &text)
     {
-        const bool ownGround = format.background().style() != Qt::NoBrush;
-        if (text.trimmed().isEmpty() || (m_item->style().isTransparent && !ownGround)) {
-            return;
-        }
-        const QColor ground = ownGround ? format.background().color() : m_item->style().background;
-        const QColor ink = format.foreground().style() != Qt::NoBrush ? format.foreground().color()
-                                                                      : QColor(Qt::black);
-        if (ink.rgb() == ground.rgb()) {
+        const bool hasInk = format.foreground().style() != Qt::NoBrush;
+        const QColor ink = hasInk ? format.foreground().color() : QColor(Qt::black);
+        const bool hasGround = format.background().style() != Qt::NoBrush;
+        const QColor ground = hasGround ? format.background().color() : m_item->groundColor();
+        if (!text.trimmed().isEmpty() && ground.alpha() > 0 && isAlike(ink, ground)) {
             warn(tr("text %1").arg(quoted(text)), tr("it has the colour of its ground"),
                  tr("change the colour of the text or of the ground"));
         }

@@ -1,5 +1,6 @@
 #include "itemrenderer.h"
 
+#include "contentplacement.h"
 #include "documentstorage.h"
 #include "fontcheck.h"
 #include "htmlguard.h"
@@ -52,7 +53,7 @@ ItemRenderer::ItemRenderer(LTextEffectNode *node, const QString &place, const QS
     for (const ItemDocument::DeniedResource &denied : m_document.deniedResources()) {
         problem(Problem::Error, tr("image %1").arg(denied.name), denied.reason, QString());
     }
-    for (const QString &family : missingFamilies(m_document)) {
+    for (const QString &family : missingFamilies(m_document, m_node->GetFontFamily())) {
         problem(Problem::Error, tr("font %1").arg(family),
                 tr("it is not installed, another font would be shown"),
                 tr("install the font or choose another one"));
@@ -91,6 +92,14 @@ void ItemRenderer::problem(Problem::Severity severity, const QString &part, cons
                            const QString &remedy)
 {
     m_problems.append({severity, m_place + QStringLiteral(": ") + part, reason, remedy});
+}
+
+QColor ItemRenderer::groundColor() const
+{
+    if (!m_style.isTransparent) {
+        return m_style.background;
+    }
+    return m_finish.textTransparent ? QColor(Qt::transparent) : canvasColor();
 }
 
 QImage ItemRenderer::page(int index)

@@ -43,7 +43,8 @@ public:
     /** The document as it is laid out, and what part of it each page shows. */
     [[nodiscard]] lctrlsex::ItemDocument &document() { return m_document; }
     [[nodiscard]] const QVector<lctrlsex::PageSlice> &slices() const { return m_slices; }
-    [[nodiscard]] const lctrlsex::PageStyle &style() const { return m_style; }
+    /** What shows behind the text; transparent where that depends on what lies below the item. */
+    [[nodiscard]] QColor groundColor() const;
 
 private:
     bool load();

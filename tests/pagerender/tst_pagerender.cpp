@@ -128,7 +128,7 @@ void TestPagerender::rendersTheDemo()
 void TestPagerender::pagesAreTheSameEveryTime()
 {
     QTemporaryDir folder;
-    for (const QString run : {QStringLiteral("1"), QStringLiteral("2")}) {
+    for (const QString &run : {QStringLiteral("1"), QStringLiteral("2")}) {
         QCOMPARE(pagerender({QStringLiteral("render"),
                              source(QStringLiteral("examples/demo.programme.json")),
                              QStringLiteral("-o"), folder.filePath(run)})
@@ -359,7 +359,9 @@ void TestPagerender::check_data()
                                   << "font No Such Font";
     QTest::newRow("missing glyph") << dejavu(QString(QChar(0xa9c1))) << "U+a9c1";
     QTest::newRow("too high") << dejavu("<span style=\"font-size:70px\">Xg</span>") << "higher";
-    QTest::newRow("too wide") << dejavu("Wwwwwwwwwwwwwwwwwwwwwwwwwwwwwwwwwwwww") << "wider";
+    QTest::newRow("too wide") << "<p style=\"font-family:'DejaVu Sans'; color:#fff; "
+                                 "white-space:pre\">A very long line of text</p>"
+                              << "wider";
     QTest::newRow("black on black") << "<p style=\"font-family:'DejaVu Sans'\">Dark</p>"
                                     << "colour of its ground";
     QTest::newRow("large image")
