@@ -1,0 +1,353 @@
+#include "htmlguardpass.h"
+
+#include <QColor>
+
+#include <algorithm>
+#include <cmath>
+
+namespace lctrlsex {
+
+namespace {
+
+constexpr double largestBorder = 999;
+constexpr double largestSize = 16384;
+constexpr double largestPercentage = 1000;
+constexpr int largestSpan = 1000;
+constexpr int mostRows = 1000000;
+constexpr int largestFontStep = 10;
+constexpr int longestName = 32;
+
+bool is(QStringView key, const char *name)
+{
+    return key.compare(QLatin1String(name), Qt::CaseInsensitive) == 0;
+}
+
+bool isNameSign(QChar c)
+{
+    const ushort u = c.unicode();
+    return (u >= 'a' && u <= 'z') || (u >= 'A' && u <= 'Z') || (u >= '0' && u <= '9') || u == '_' ||
+           u == ':' || u == '.' || u == '-';
+}
+
+bool isPlainName(QStringView name)
+{
+    return !name.isEmpty() && name.size() <= longestName &&
+           std::all_of(name.begin(), name.end(), isNameSign);
+}
+
+bool isHexColor(const QString &value)
+{
+    return value.size() == 7 && value.at(0) == QLatin1Char('#') &&
+           std::all_of(value.begin() + 1, value.end(), [](QChar c) {
+               const ushort u = c.unicode() | 0x20U;
+               return (u >= '0' && u <= '9') || (u >= 'a' && u <= 'f');
+           });
+}
+
+} // namespace
+
+HtmlGuardPass::HtmlGuardPass(const QString &html)
+    : m_html(html)
+    , m_reader(QStringView(html))
+    , m_workload(html.size())
+{}
+
+void HtmlGuardPass::run()
+{
+    while (m_workload.excess() == HtmlExcess::None && m_reader.next(m_token)) {
+        switch (m_token.kind) {
+        case HtmlToken::Kind::Text:
+            m_workload.text(QStringView(m_html).mid(m_token.begin, m_token.end - m_token.begin));
+            m_textSeen = true;
+            break;
+        case HtmlToken::Kind::Open:
+            openTag();
+            break;
+        case HtmlToken::Kind::Close:
+            closeTag();
+            break;
+        case HtmlToken::Kind::Declaration:
+            break;
+        }
+    }
+    if (m_workload.excess() == HtmlExcess::None) {
+        m_workload.finish();
+    }
+    for (const RowSpanUse &use : m_workload.longRowSpans()) {
+        replaceAttribute(use.attribute, QString::number(std::max(1, use.rowsLeft)));
+    }
+}
+
+QString HtmlGuardPass::edited()
+{
+    std::stable_sort(m_edits.begin(), m_edits.end(),
+                     [](const Edit &a, const Edit &b) { return a.begin < b.begin; });
+    QString text;
+    text.reserve(m_html.size());
+    int copied = 0;
+    for (const Edit &edit : m_edits) {
+        if (edit.begin < copied) {
+            continue;
+        }
+        text += m_html.midRef(copied, edit.begin - copied);
+        text += edit.text;
+        copied = edit.end;
+    }
+    text += m_html.midRef(copied);
+    return text;
+}
+
+void HtmlGuardPass::drop(int begin, int end)
+{
+    m_edits.push_back({begin, end, QString()});
+}
+
+void HtmlGuardPass::replaceAttribute(const HtmlAttribute &attribute, const QString &value)
+{
+    const QString text = QLatin1Char(' ') + attribute.key.toString() + QLatin1String("=\"") +
+                         quotedAttributeText(value) + QLatin1Char('"');
+    m_edits.push_back({attribute.begin, attribute.end, text});
+}
+
+bool HtmlGuardPass::readName()
+{
+    if (!m_token.terminated || !isPlainName(m_token.name)) {
+        return false;
+    }
+    m_name.resize(int(m_token.name.size()));
+    std::transform(m_token.name.begin(), m_token.name.end(), m_name.begin(), [](QChar c) {
+        const bool upper = c >= QLatin1Char('A') && c <= QLatin1Char('Z');
+        return upper ? QChar(c.unicode() + 0x20) : c;
+    });
+    m_element = findHtmlElement(m_name);
+    return (m_element.traits & RefusedTrait) == 0;
+}
+
+void HtmlGuardPass::closeTag()
+{
+    // Qt can open an element anew at the close tag of one that holds nothing.
+    if (!readName() || (m_element.traits & VoidTrait) != 0) {
+        drop(m_token.begin, m_token.end);
+        return;
+    }
+    m_workload.close(m_element, m_name);
+}
+
+void HtmlGuardPass::openTag()
+{
+    if (!readName()) {
+        drop(m_token.begin, m_token.end);
+        return;
+    }
+    if ((m_element.traits & ScriptTrait) != 0) {
+        dropScript();
+        return;
+    }
+    if ((m_element.traits & StyleTrait) != 0 && !keepStyleSheet()) {
+        return;
+    }
+    if ((m_element.traits & MetaTrait) != 0) {
+        readMeta();
+        return;
+    }
+    ElementRequest request;
+    for (const HtmlAttribute &attribute : m_token.attributes) {
+        if (attribute.quotedKey || !isPlainName(attribute.key)) {
+            drop(attribute.begin, attribute.end);
+        } else {
+            readAttribute(attribute, &request);
+        }
+    }
+    m_workload.open(m_element, m_name, request, m_token.selfClosed);
+    if ((m_element.traits & StyleTrait) != 0) {
+        // The content was read by keepStyleSheet(); its text is none of the document's.
+        m_reader.seek(m_html.indexOf(QLatin1Char('<'), m_token.end));
+    }
+}
+
+void HtmlGuardPass::dropScript()
+{
+    const QLatin1String closing("</script");
+    int end = m_html.indexOf(closing, m_token.end, Qt::CaseInsensitive);
+    end = end < 0 ? -1 : m_html.indexOf(QLatin1Char('>'), end);
+    end = end < 0 ? m_html.size() : end + 1;
+    drop(m_token.begin, end);
+    m_reader.seek(end);
+}
+
+bool HtmlGuardPass::keepStyleSheet()
+{
+    const int next = m_html.indexOf(QLatin1Char('<'), m_token.end);
+    const int end = next < 0 ? m_html.size() : next;
+    const bool closed =
+        m_html.midRef(end, 8).compare(QLatin1String("</style>"), Qt::CaseInsensitive) == 0;
+    const QStringView css = QStringView(m_html).mid(m_token.end, end - m_token.end);
+    m_sheetCharacters += int(css.size());
+    StyleFacts facts;
+    if (closed && !m_token.selfClosed && m_sheetCharacters <= longestStyleSheet &&
+        styleSheetIsHarmless(css, &facts)) {
+        m_workload.addSheet(facts);
+        return true;
+    }
+    const int behind = closed ? end + 8 : end;
+    drop(m_token.begin, behind);
+    m_reader.seek(behind);
+    return false;
+}
+
+void HtmlGuardPass::readMeta()
+{
+    // Only Qt's own mark has an effect, on all of the text: so it may not come late or in disguise.
+    bool named = false;
+    bool marked = false;
+    for (const HtmlAttribute &attribute : m_token.attributes) {
+        const bool plain = !attribute.quotedKey && isPlainName(attribute.key);
+        const bool value = attribute.quote == HtmlAttribute::Quote::Double;
+        named = named || (plain && value && is(attribute.key, "name") &&
+                          attribute.value == QLatin1String("qrichtext"));
+        marked = marked || (named && plain && value && is(attribute.key, "content") &&
+                            attribute.value == QLatin1String("1"));
+    }
+    const QStringView tag = QStringView(m_html).mid(m_token.begin, m_token.end - m_token.begin);
+    const bool odd = tag.contains(QLatin1Char('&'));
+    if (odd || (!named && tag.contains(QStringView(u"qrichtext"))) || (named && m_textSeen)) {
+        drop(m_token.begin, m_token.end);
+        return;
+    }
+    if (marked) {
+        m_workload.setRichTextMark();
+    }
+    m_workload.open(m_element, m_name, ElementRequest(), m_token.selfClosed);
+}
+
+void HtmlGuardPass::readAttribute(const HtmlAttribute &attribute, ElementRequest *request)
+{
+    const QStringView key = attribute.key;
+    switch (key[0].toLower().unicode()) {
+    case 's':
+        if (is(key, "style")) {
+            readStyle(attribute, request);
+        } else if (is(key, "size")) {
+            int step = 0;
+            readInteger(attribute, -largestFontStep, largestFontStep, &step);
+            request->fontKey = request->fontKey * 31U + uint(step) + 100U;
+        }
+        break;
+    case 'b':
+        if (is(key, "background")) {
+            drop(attribute.begin, attribute.end);
+        } else if (is(key, "border")) {
+            readNumber(attribute, largestBorder, &request->border);
+        } else if (is(key, "bgcolor") || is(key, "bordercolor")) {
+            checkColor(attribute);
+        }
+        break;
+    case 'c':
+        if (is(key, "cellpadding")) {
+            readNumber(attribute, largestBorder, &request->padding);
+        } else if (is(key, "cellspacing")) {
+            readNumber(attribute, largestBorder, &request->spacing);
+        } else if (is(key, "colspan")) {
+            readInteger(attribute, 1, largestSpan, &request->columnSpan);
+        } else if (is(key, "color")) {
+            checkColor(attribute);
+        }
+        break;
+    case 'w':
+    case 'h':
+        if (is(key, "width")) {
+            readSize(attribute, &request->width);
+        } else if (is(key, "height")) {
+            readSize(attribute, &request->height);
+        }
+        break;
+    case 'r':
+        if (is(key, "rowspan")) {
+            readInteger(attribute, 1, mostRows, &request->rowSpan);
+            request->rowSpanAttribute = &attribute;
+        }
+        break;
+    case 'a':
+        if (is(key, "align")) {
+            const QString side = attributeText(attribute).toLower();
+            request->floats = request->floats ||
+                              ((m_element.traits & ImageTrait) != 0 &&
+                               (side == QLatin1String("left") || side == QLatin1String("right")));
+        }
+        break;
+    case 'f':
+        if (is(key, "face")) {
+            request->fontKey = qHash(attribute.value, request->fontKey) | 1U;
+        }
+        break;
+    default:
+        break;
+    }
+}
+
+void HtmlGuardPass::readStyle(const HtmlAttribute &attribute, ElementRequest *request)
+{
+    const bool raw = attribute.quote == HtmlAttribute::Quote::Single ||
+                     !attribute.value.contains(QLatin1Char('&'));
+    const QString decoded = raw ? QString() : decodeEntities(attribute.value);
+    const CheckedStyle &style = m_styles.check(raw ? attribute.value : QStringView(decoded));
+    if (style.unchanged) {
+        request->style.merge(style.facts);
+    } else if (style.text.isEmpty()) {
+        drop(attribute.begin, attribute.end);
+    } else {
+        replaceAttribute(attribute, style.text);
+    }
+}
+
+void HtmlGuardPass::readSize(const HtmlAttribute &attribute, double *size)
+{
+    QString text = attributeText(attribute);
+    bool isNumber = false;
+    (void)text.toDouble(&isNumber);
+    const QString trimmed = text.trimmed();
+    if (isNumber || !trimmed.endsWith(QLatin1Char('%'))) {
+        readNumber(attribute, largestSize, size);
+        return;
+    }
+    const double percentage = trimmed.leftRef(trimmed.size() - 1).toDouble(&isNumber);
+    if (isNumber && !(percentage >= 0 && percentage <= largestPercentage)) {
+        replaceAttribute(attribute,
+                         percentage > 0 ? QStringLiteral("1000%") : QStringLiteral("0%"));
+    }
+}
+
+void HtmlGuardPass::readNumber(const HtmlAttribute &attribute, double most, double *number)
+{
+    bool isNumber = false;
+    double value = attributeText(attribute).toDouble(&isNumber);
+    if (isNumber && !(value >= 0 && value <= most)) {
+        value = value > most ? most : 0;
+        replaceAttribute(attribute, QString::number(value, 'f', 0));
+    }
+    *number = std::max(*number, isNumber ? value : 0);
+}
+
+void HtmlGuardPass::readInteger(const HtmlAttribute &attribute, int least, int most, int *number)
+{
+    bool isNumber = false;
+    const int value = attributeText(attribute).toInt(&isNumber);
+    if (!isNumber) {
+        return;
+    }
+    *number = std::clamp(value, least, most);
+    if (value != *number) {
+        replaceAttribute(attribute, QString::number(*number));
+    }
+}
+
+void HtmlGuardPass::checkColor(const HtmlAttribute &attribute)
+{
+    // Qt complains in the log about each colour that it does not know.
+    const QString value = attributeText(attribute);
+    if (!isHexColor(value) && !QColor::isValidColor(value)) {
+        drop(attribute.begin, attribute.end);
+    }
+}
+
+} // namespace lctrlsex

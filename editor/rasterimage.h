@@ -1,0 +1,37 @@
+#pragma once
+
+#include <QByteArray>
+#include <QImage>
+#include <QString>
+
+namespace lctrlsex {
+
+/** A picture that was read, or why it was not. */
+struct RasterImage
+{
+    /** Null when there is an error. */
+    QImage image;
+    /** Reason and remedy in one sentence for the user; empty when there is an image. */
+    QString error;
+};
+
+/** Most bytes that a picture may have. */
+constexpr qint64 largestRasterData = 16 * 1024 * 1024;
+/** Most pixels in all and on a side. */
+constexpr qint64 mostRasterPixels = 64 * 1024 * 1024;
+constexpr int longestRasterSide = 16384;
+
+/**
+ * Decodes a PNG, JPEG, GIF (its first frame) or BMP picture, told apart by their first bytes alone.
+ * The size is read before anything is decoded, so that a refusal is quick and small. A picture
+ * that is cut off or lies about its size is an error, never a part of a picture. Any thread.
+ */
+[[nodiscard]] RasterImage decodeRaster(const QByteArray &data);
+
+/**
+ * Reads a picture from a file as decodeRaster(). What is not a regular file (a pipe, a device, a
+ * folder) is an error and is not waited for. Any thread.
+ */
+[[nodiscard]] RasterImage readRasterFile(const QString &path);
+
+} // namespace lctrlsex
