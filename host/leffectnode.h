@@ -55,7 +55,7 @@ public:
     explicit LEffectNode(LNode *parent = nullptr);
     ~LEffectNode() override;
 
-    /** The frame's size inside a frame, else the item's own. */
+    /** The item's own size, the frame's where it has none. */
     [[nodiscard]] QSize Size() const override;
 
     /** The display effects in the order of the list: name, image, number. KeepPage is not one. */

@@ -59,9 +59,9 @@ LEffectNode::~LEffectNode() = default;
 
 QSize LEffectNode::Size() const
 {
+    const QSize own = LNode::Size();
     const LFrameNode *const frame = GetFrameNode();
-    const QSize size = frame ? frame->Size() : QSize();
-    return size.isValid() ? size : LNode::Size();
+    return own.isValid() || !frame ? own : frame->Size();
 }
 
 QVector<LEffectItem> LEffectNode::GetDispEffectName()

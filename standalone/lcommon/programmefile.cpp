@@ -6,11 +6,11 @@
 #include "programmekeys.h"
 #include "programmereader.h"
 #include "programmeschema.h"
+#include "replacefile.h"
 
 #include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
-#include <QSaveFile>
 
 #include <cstdio>
 
@@ -35,8 +35,9 @@ void writeMembers(const LNode &node, const QVector<ProgrammeSchema::Member> &mem
     }
 }
 
-void writeAttributes(const LNode &node, const QStringList &written, QJsonObject *object)
+void writeAttributes(const LNode &node, QStringList written, QJsonObject *object)
 {
+    written.append(ProgrammeKeys::NodeName);
     QJsonObject attributes;
     const QStringList keys = node.AttributeKeys();
     for (const QString &key : keys) {
@@ -210,13 +211,10 @@ QByteArray writeProgramme(const LControllerNode &controller)
 
 ProgrammeError saveProgramme(const LControllerNode &controller, const QString &fileName)
 {
-    const QByteArray bytes = writeProgramme(controller);
-    QSaveFile file(fileName);
-    // Never through a direct write: it would leave half a file where the folder is read-only.
-    file.setDirectWriteFallback(false);
-    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit()) {
-        return fileError(QStringLiteral("the file cannot be written: %1").arg(file.errorString()),
-                         QStringLiteral("the old file is unchanged; make room, or save elsewhere"));
-    }
-    return {};
+    const QString reason = replaceFile(fileName, writeProgramme(controller));
+    return reason.isEmpty()
+               ? ProgrammeError()
+               : fileError(
+                     QStringLiteral("the file cannot be written: %1").arg(reason),
+                     QStringLiteral("the old file is unchanged; make room, or save elsewhere"));
 }

@@ -19,6 +19,9 @@ inline const QString TextType = QStringLiteral("text");
 inline const QString Document = QStringLiteral("document");
 inline const QString Attributes = QStringLiteral("attributes");
 
+// The attribute that every node keeps its name in.
+inline const QString NodeName = QStringLiteral("Name");
+
 // Attributes of a text item that the readable document stands for.
 inline const QString RawHtml = QStringLiteral("RawHtml");
 inline const QString DisplayHtml = QStringLiteral("Html");

@@ -1,7 +1,9 @@
 #include "pagefile.h"
 
+#include "replacefile.h"
+
+#include <QBuffer>
 #include <QImageWriter>
-#include <QSaveFile>
 
 namespace {
 
@@ -40,15 +42,8 @@ QString PageNames::stemFor(const QString &name)
 
 QString writePageFile(const QImage &image, const QString &fileName)
 {
-    QSaveFile file(fileName);
-    if (!file.open(QIODevice::WriteOnly)) {
-        return file.errorString();
-    }
-    QImageWriter writer(&file, "png");
-    if (!writer.write(image)) {
-        const QString reason = writer.errorString();
-        file.cancelWriting();
-        return file.error() != QFileDevice::NoError ? file.errorString() : reason;
-    }
-    return file.commit() ? QString() : file.errorString();
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    QImageWriter writer(&buffer, "png");
+    return writer.write(image) ? replaceFile(fileName, bytes) : writer.errorString();
 }

@@ -162,14 +162,17 @@ void TestNodes::sizeOfAnItem()
     QCOMPARE(screen->Size(), QSize(640, 320));
     auto *const frame = new LFrameNode(screen);
     auto *const item = new LTextEffectNode(frame);
-    item->SetSize({10, 10});
-    QCOMPARE(item->Size(), QSize(10, 10));
+    QCOMPARE(item->Size(), QSize(640, 320));
     frame->SetRect({5, 6, 128, 64});
     QCOMPARE(item->Size(), QSize(128, 64));
-    frame->SetSize({0, 64});
-    QCOMPARE(frame->Size(), QSize());
+    item->SetSize({10, 10});
+    QCOMPARE(item->Size(), QSize(10, 10));
     item->SetAttribute("Height", "high");
-    QCOMPARE(item->Size(), QSize());
+    QCOMPARE(item->Size(), QSize(128, 64));
+    frame->SetSize({0, 64});
+    QCOMPARE(frame->Size(), QSize(640, 320));
+    LTextEffectNode orphan;
+    QCOMPARE(orphan.Size(), QSize());
 }
 
 void TestNodes::frameSignals()
