@@ -3,10 +3,10 @@
 // as the row says; the floor draws the same first page.
 
 #include "contentplacement.h"
+#include "documentsetup.h"
 #include "itemdocument.h"
 #include "pagerenderer.h"
 
-#include <QAbstractTextDocumentLayout>
 #include <QGuiApplication>
 #include <QPainter>
 #include <QTextCursor>
@@ -15,7 +15,6 @@
 
 #include <algorithm>
 #include <chrono>
-#include <memory>
 #include <vector>
 
 using namespace lctrlsex;
@@ -36,6 +35,12 @@ QString longText(int paragraphs)
                     .arg(i % 60);
     }
     return html;
+}
+
+void loadForEditing(ItemDocument *document, int paragraphs)
+{
+    prepareView(document, {});
+    document->setHtml(longText(paragraphs));
 }
 
 PageStyle styleFor(const benchmark::State &state)
@@ -92,10 +97,10 @@ void pageImage(benchmark::State &state)
 {
     const PageStyle style = styleFor(state);
     ItemDocument document;
-    document.loadItem(longText(int(state.range(2))), {});
-    std::unique_ptr<QTextDocument> laidOut(document.clone());
-    prepareLayout(laidOut.get());
-    laidOut->setTextWidth(style.size.width());
+    loadForEditing(&document, int(state.range(2)));
+    ItemDocument laidOut;
+    laidOut.loadItem(longText(int(state.range(2))), {});
+    laidOut.setTextWidth(style.size.width());
     PageRenderer renderer;
     compare(
         state,
@@ -104,7 +109,7 @@ void pageImage(benchmark::State &state)
             const QImage placed = placeContent(page, style.size, Qt::AlignVCenter, false);
             benchmark::DoNotOptimize(placed.constBits());
         },
-        [&] { drawFloor(laidOut.get(), style); });
+        [&] { drawFloor(&laidOut, style); });
 }
 
 /** The same after an edit below the page, which must cost nothing more. */
@@ -112,17 +117,17 @@ void pageImageEditBelow(benchmark::State &state)
 {
     const PageStyle style = styleFor(state);
     ItemDocument document;
-    document.loadItem(longText(int(state.range(2))), {});
-    std::unique_ptr<QTextDocument> laidOut(document.clone());
-    prepareLayout(laidOut.get());
-    laidOut->setTextWidth(style.size.width());
+    loadForEditing(&document, int(state.range(2)));
+    ItemDocument laidOut;
+    laidOut.loadItem(longText(int(state.range(2))), {});
+    laidOut.setTextWidth(style.size.width());
     PageRenderer renderer;
     QTextCursor cursor(&document);
     cursor.movePosition(QTextCursor::End);
     compare(
         state, [&] { benchmark::DoNotOptimize(renderer.topPage(&document, style).constBits()); },
         [&] {
-            drawFloor(laidOut.get(), style);
+            drawFloor(&laidOut, style);
             cursor.insertText(QStringLiteral("x"));
             cursor.deletePreviousChar();
         });

@@ -46,14 +46,18 @@ QStringList missingFamilies(const QTextDocument &document, const QString &itemFa
     QSet<QString> seen;
     QStringList missing;
     const auto check = [&](const QStringList &families) {
+        const QString wanted = families.constFirst();
+        if (seen.contains(wanted)) {
+            return;
+        }
+        seen.insert(wanted);
         // A list of families names its own substitutes, so the first installed one is as meant.
         const bool isThere =
             std::any_of(families.begin(), families.end(),
                         [&database](const QString &family) { return database.hasFamily(family); });
-        if (!families.isEmpty() && !isThere && !seen.contains(families.constFirst())) {
-            missing.append(families.constFirst());
+        if (!isThere) {
+            missing.append(wanted);
         }
-        seen.insert(families.value(0));
     };
     if (!itemFamily.isEmpty()) {
         check({itemFamily});

@@ -97,6 +97,7 @@ private slots:
     void unwritableOutput();
     void check_data();
     void check();
+    void opensNothingOutside();
 };
 
 void TestPagerender::rendersTheDemo()
@@ -378,6 +379,57 @@ void TestPagerender::check()
         pagerender({QStringLiteral("check"), QStringLiteral("-")}, documentProgramme(html));
     QCOMPARE(outcome.status, says.isEmpty() ? 0 : 1);
     QVERIFY2(says.isEmpty() || outcome.err.contains(says), qPrintable(outcome.err));
+}
+
+void TestPagerender::opensNothingOutside()
+{
+    QTemporaryDir folder;
+    QImage canary(8, 8, QImage::Format_RGB32);
+    canary.fill(Qt::red);
+    const QString path = folder.filePath(QStringLiteral("canary.png"));
+    QVERIFY(canary.save(path));
+    QFile style(folder.filePath(QStringLiteral("canary.css")));
+    QVERIFY(style.open(QIODevice::WriteOnly));
+    style.close();
+    const QString html =
+        QStringLiteral(
+            "<html><head><link rel=\"stylesheet\" href=\"canary.css\">"
+            "<style>@import url(canary.css); p{background:url(canary.png)}</style></head>"
+            "<body background=\"canary.png\"><p style=\"color:#fff;font-family:'DejaVu "
+            "Sans';background-image:url(%1)\">x<img src=\"canary.png\"><img src=\"%1\">"
+            "<img src=\"file://%1\"><img src=\"file:canary.png\">"
+            "<img src=\"//127.0.0.1/canary.png\"><img src=\"http://127.0.0.1:9/canary.png\">"
+            "<img src=\"data:image/svg+xml;base64,%2\"></p>"
+            "<table background=\"canary.png\"><tr><td>y</td></tr></table>")
+            .arg(path, QString::fromLatin1(
+                           QByteArray("<svg xmlns='http://www.w3.org/2000/svg' "
+                                      "xmlns:xlink='http://www.w3.org/1999/xlink' width='9' "
+                                      "height='9'><image width='9' height='9' xlink:href='" +
+                                      path.toUtf8() + "'/></svg>")
+                               .toBase64()));
+    QFile programmeFile(folder.filePath(QStringLiteral("p.json")));
+    QVERIFY(programmeFile.open(QIODevice::WriteOnly));
+    programmeFile.write(documentProgramme(html));
+    programmeFile.close();
+
+    QProcess process;
+    process.setWorkingDirectory(folder.path());
+    process.start(QStringLiteral("strace"),
+                  {QStringLiteral("-f"), QStringLiteral("-e"),
+                   QStringLiteral("trace=%file,%network"), QStringLiteral("-o"),
+                   QStringLiteral("trace"), QStringLiteral(LCTRLSEX_BINARY_DIR "/bin/pagerender"),
+                   QStringLiteral("render"), QStringLiteral("p.json"), QStringLiteral("-o"),
+                   QStringLiteral("pages"), QStringLiteral("--lenient")});
+    if (!process.waitForStarted() || !process.waitForFinished(60000) || process.exitCode() != 0) {
+        QSKIP("strace cannot trace here");
+    }
+    QVERIFY(QFile::exists(folder.filePath(QStringLiteral("pages/Item-1.png"))));
+    QFile trace(folder.filePath(QStringLiteral("trace")));
+    QVERIFY(trace.open(QIODevice::ReadOnly));
+    const QByteArray calls = trace.readAll();
+    QVERIFY(calls.contains("p.json"));
+    QVERIFY2(!calls.contains("canary"), calls.constData() + qMax(0, calls.indexOf("canary") - 80));
+    QVERIFY(!calls.contains("AF_INET"));
 }
 
 QTEST_MAIN(TestPagerender)
