@@ -18,6 +18,5 @@ public:
 
 private:
     LPluginManager();
-    ~LPluginManager();
     Q_DISABLE_COPY(LPluginManager)
 };

@@ -3,7 +3,6 @@
 #include "lcontrollernode.h"
 
 LPluginManager::LPluginManager() = default;
-LPluginManager::~LPluginManager() = default;
 
 LPluginManager *LPluginManager::instance()
 {

@@ -39,6 +39,12 @@ const char *s_setters[] = {
 #undef NODE_ATTRIBUTE
 };
 
+const char *s_keys[] = {
+#define NODE_ATTRIBUTE(Class, Type, Getter, Setter, Key, Default) Key,
+#include "nodeattributes.def"
+#undef NODE_ATTRIBUTE
+};
+
 /** Another value than @p value, of the same type. */
 QVariant other(const QVariant &value)
 {
@@ -64,6 +70,7 @@ private slots:
     void accessor_data();
     void accessor();
     void accessorNamesPair();
+    void keysAreUnique();
     void everySetterOfTheHeadersIsDefined();
     void fixedKeys();
     void newItem();
@@ -134,6 +141,16 @@ void TestAttributes::accessorNamesPair()
         QString setter = QString::fromLatin1(s_setters[i]);
         getter.remove(QRegularExpression("^(Get|Is|Text(?=Page))"));
         QCOMPARE(getter, setter.remove(QRegularExpression("^Set")));
+    }
+}
+
+void TestAttributes::keysAreUnique()
+{
+    // "Name", the size and the table's record are kept beside those of the table of attributes.
+    QSet<QString> known{"Name", "Width", "Height", "TableProperties"};
+    for (const char *key : s_keys) {
+        QVERIFY2(!known.contains(key), key);
+        known.insert(key);
     }
 }
 
