@@ -5,7 +5,7 @@ add_library(lctrlsex_warnings INTERFACE)
 target_compile_options(lctrlsex_warnings INTERFACE
   -Wall -Wextra -Wpedantic -Woverloaded-virtual -Wnon-virtual-dtor -Wshadow -Wvla
   $<$<CXX_COMPILER_ID:GNU>:-Wsuggest-override -Wlogical-op -Wduplicated-cond>
-  $<$<CXX_COMPILER_ID:Clang>:-Wsuggest-override>
+  $<$<CXX_COMPILER_ID:Clang>:-Wno-gnu-zero-variadic-macro-arguments>
   $<$<BOOL:${LCTRLSEX_WERROR}>:-Werror>)
 target_compile_definitions(lctrlsex_warnings INTERFACE QT_DEPRECATED_WARNINGS)
 
