@@ -9,7 +9,7 @@ cd "$root"
 
 cmake/install-dependencies.sh g++ cmake ninja-build ccache pkg-config git qtbase5-dev \
     libfontconfig1-dev fonts-dejavu-core fonts-liberation2 fonts-wqy-zenhei libbenchmark-dev \
-    clang clang-format clang-tidy strace
+    clang-format clang-tidy strace
 
 step() { printf '\n== %s\n' "$1"; }
 
@@ -31,5 +31,5 @@ if [ "${1:-}" != quick ]; then
     ctest --preset dev-asan -j2
 
     step "clang-tidy"
-    build_preset clang-tidy
+    cmake/clang-tidy.sh build/dev
 fi

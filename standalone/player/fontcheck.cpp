@@ -46,7 +46,7 @@ QStringList missingFamilies(const QTextDocument &document, const QString &itemFa
     QSet<QString> seen;
     QStringList missing;
     const auto check = [&](const QStringList &families) {
-        const QString wanted = families.constFirst();
+        const QString &wanted = families.constFirst();
         if (seen.contains(wanted)) {
             return;
         }
