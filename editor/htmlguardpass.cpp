@@ -56,10 +56,13 @@ void HtmlGuardPass::run()
 {
     while (m_workload.excess() == HtmlExcess::None && m_reader.next(m_token)) {
         switch (m_token.kind) {
-        case HtmlToken::Kind::Text:
-            m_workload.text(QStringView(m_html).mid(m_token.begin, m_token.end - m_token.begin));
-            m_textSeen = true;
+        case HtmlToken::Kind::Text: {
+            const QStringView text =
+                QStringView(m_html).mid(m_token.begin, m_token.end - m_token.begin);
+            m_workload.text(text);
+            m_textSeen = m_textSeen || !text.trimmed().isEmpty();
             break;
+        }
         case HtmlToken::Kind::Open:
             openTag();
             break;

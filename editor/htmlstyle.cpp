@@ -1,5 +1,6 @@
 #include "htmlstyle.h"
 
+#include <QColor>
 #include <QHash>
 #include <QVector>
 
@@ -92,7 +93,9 @@ Number readNumber(const QString &component)
     number.value = digits.toDouble(&number.valid);
     if (!number.valid && !digits.isEmpty()) {
         // "12furlong" and a number too large for a double still start like a number.
-        const QChar first = digits.at(digits.size() > 1 && digits.at(0).unicode() < '0' ? 1 : 0);
+        const bool isSigned =
+            digits.startsWith(QLatin1Char('+')) || digits.startsWith(QLatin1Char('-'));
+        const QChar first = digits.at(isSigned && digits.size() > 1 ? 1 : 0);
         const bool numeric = first.isDigit() || first == QLatin1Char('.');
         number.valid = numeric && !component.startsWith(QLatin1Char('#'));
         number.value = number.valid ? std::nan("") : 0;
@@ -126,8 +129,11 @@ bool isPlainComponent(const QString &component)
     if (component == QLatin1String("!important")) {
         return true;
     }
-    const int begin = component.startsWith(QLatin1Char('#')) ? 1 : 0;
-    return std::all_of(component.begin() + begin, component.end(), [](QChar c) {
+    if (component.startsWith(QLatin1Char('#'))) {
+        // Qt complains in the log about each colour that it does not know.
+        return QColor::isValidColor(component);
+    }
+    return std::all_of(component.begin(), component.end(), [](QChar c) {
         return c.isLetterOrNumber() || c == QLatin1Char('-') || c == QLatin1Char('_') ||
                c == QLatin1Char('.') || c == QLatin1Char('%');
     });
@@ -359,9 +365,11 @@ void StyleReader::note(const QString &property, const QString &component, const 
         facts.floats =
             facts.floats || component.compare(QLatin1String("none"), Qt::CaseInsensitive);
     }
-    if (property == QLatin1String("white-space")) {
-        facts.keepsSpace = true;
-    }
+    facts.keepsSpace = facts.keepsSpace || property == QLatin1String("white-space");
+    facts.emptyParagraph = facts.emptyParagraph || property == QLatin1String("-qt-paragraph-type");
+    facts.rootFrame =
+        facts.rootFrame || (property == QLatin1String("-qt-table-type") &&
+                            component.compare(QLatin1String("root"), Qt::CaseInsensitive) == 0);
     if (!number.valid) {
         return;
     }
@@ -405,6 +413,8 @@ void StyleFacts::merge(const StyleFacts &other)
     marginGiven = marginGiven || other.marginGiven;
     keepsSpace = keepsSpace || other.keepsSpace;
     floats = floats || other.floats;
+    emptyParagraph = emptyParagraph || other.emptyParagraph;
+    rootFrame = rootFrame || other.rootFrame;
 }
 
 CheckedStyle checkStyle(const QString &style)

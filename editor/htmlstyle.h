@@ -30,6 +30,10 @@ struct StyleFacts
     bool keepsSpace = false;
     /** The element floats. */
     bool floats = false;
+    /** A paragraph of Qt's that holds nothing; Qt passes over its children. */
+    bool emptyParagraph = false;
+    /** A table that stands for the frame of the whole document. */
+    bool rootFrame = false;
 
     /** Adds what @p other says; the dearer of two sayings holds. */
     void merge(const StyleFacts &other);

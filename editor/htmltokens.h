@@ -34,7 +34,7 @@ struct HtmlToken
     /** First position of the token and the position behind it. */
     int begin = 0;
     int end = 0;
-    /** Tag name as written, in any letter case, possibly empty; quotes belong to it. */
+    /** Tag name as written, in any letter case, without its quotes; possibly empty. */
     QStringView name;
     /** Attributes in order; those without effect in Qt (empty value) are left out. */
     std::vector<HtmlAttribute> attributes;

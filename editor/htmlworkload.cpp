@@ -205,6 +205,7 @@ void HtmlWorkload::push(uint name, uint traits, const ElementRequest &request)
     Element element = top();
     element.name = name;
     element.traits = traits;
+    element.skipsChildren = element.skipsChildren || style.emptyParagraph;
     element.hidden = element.hidden || (traits & HiddenTrait) != 0;
     const double largest = (traits & LargeTrait) != 0 || request.fontKey != 0 ? 2.4 : 1;
     element.fontSize = std::max({style.fontSize > 0 ? style.fontSize : element.fontSize,
@@ -233,7 +234,9 @@ void HtmlWorkload::push(uint name, uint traits, const ElementRequest &request)
 void HtmlWorkload::enter(uint traits, const ElementRequest &request, bool inRow)
 {
     const bool hidden = top().hidden;
-    if (hidden && (traits & (TableTrait | ListTrait)) != 0) {
+    const bool skipped = hidden || top().skipsChildren;
+    if (skipped && (traits & (TableTrait | ListTrait)) != 0) {
+        // Qt does not start it but ends it, and with it the one around.
         fail(HtmlExcess::HiddenTable);
     }
     if ((traits & ListTrait) != 0) {
@@ -255,6 +258,8 @@ void HtmlWorkload::enter(uint traits, const ElementRequest &request, bool inRow)
         // Outside of a row Qt starts no new block for a cell.
         if (inRow) {
             enterCell(request);
+        } else {
+            m_block.forcedLines += 1;
         }
     } else if ((traits & BlockTrait) != 0 && !hidden) {
         startBlock();
@@ -264,6 +269,15 @@ void HtmlWorkload::enter(uint traits, const ElementRequest &request, bool inRow)
 void HtmlWorkload::enterTable(const ElementRequest &request)
 {
     endBlock();
+    if (!m_tables.empty()) {
+        // Outside of a cell, or where spans overlap, Qt loses its place and puts each further
+        // table into the one before: as deep as there are tables.
+        Table &outer = m_tables.back();
+        outer.holdsTables = true;
+        if (!outer.inCell || outer.overlaps || request.style.rootFrame) {
+            fail(HtmlExcess::TableOrder);
+        }
+    }
     const double frame = 2 * (request.border + request.padding) + request.spacing;
     Table table;
     table.rowExtra = frame;
@@ -305,6 +319,13 @@ void HtmlWorkload::enterCell(const ElementRequest &request)
     const size_t columns = size_t(table.columns);
     table.freeFrom.resize(columns);
     table.spanWidth.resize(columns);
+    for (int i = first; i < std::min(int(columns), table.column); ++i) {
+        table.overlaps = table.overlaps || table.freeFrom[size_t(i)] > row;
+    }
+    if (table.overlaps && table.holdsTables) {
+        fail(HtmlExcess::TableOrder);
+    }
+    table.inCell = true;
     const int rowSpan = std::min(request.rowSpan, int(mostCells));
     for (size_t i = size_t(first); i < std::min(columns, size_t(table.column)); ++i) {
         table.freeFrom[i] = row + rowSpan;
@@ -328,6 +349,7 @@ void HtmlWorkload::leaveCell()
     Table &table = m_tables.back();
     const double height = m_heights.back() + table.cellUpright;
     m_heights.pop_back();
+    table.inCell = false;
     if (table.cellSpan > 1) {
         m_heights.back() += height;
     } else {
@@ -376,6 +398,7 @@ void HtmlWorkload::openVoid(uint traits, const ElementRequest &request)
 {
     if ((traits & BreakTrait) != 0) {
         endWord();
+        noteFont();
         m_work += lineTime;
         m_block.forcedLines += 1;
         m_block.characters += 1;
@@ -383,6 +406,7 @@ void HtmlWorkload::openVoid(uint traits, const ElementRequest &request)
         startBlock();
         m_heights.back() += request.style.upright;
     } else if ((traits & ImageTrait) != 0) {
+        noteFont();
         m_work += imageTime;
         m_tangle += (m_block.characters + m_block.images) * imagePerCharacterTime;
         m_block.images += 1;
@@ -434,6 +458,7 @@ void HtmlWorkload::pop()
     } else if ((element.traits & CellTrait) != 0 && inRow) {
         leaveCell();
     }
+    m_blockClosed = m_blockClosed || (element.traits & (BlockTrait | TableTrait)) != 0;
     --m_openNames[element.name];
     m_open.pop_back();
 }
@@ -441,6 +466,8 @@ void HtmlWorkload::pop()
 void HtmlWorkload::startBlock(bool repeated)
 {
     endBlock();
+    m_blockClosed = false;
+    m_block.fontSize = top().fontSize;
     m_heights.back() += repeated ? 0 : top().upright;
     m_work += blockTime;
     m_memory += blockMemory;
@@ -583,6 +610,13 @@ void HtmlWorkload::text(QStringView text)
     noteFont();
     m_work += textRunTime + double(text.size()) * characterTime * ordinaryPasses();
     m_tangle += double(text.size()) * characterTime * (passes() - ordinaryPasses());
+    if (m_blockClosed) {
+        // Text behind a closed block gets one of its own, often.
+        m_blockClosed = false;
+        m_block.forcedLines += 1;
+        m_work += blockTime;
+        m_memory += blockMemory;
+    }
     if (m_block.wordCharacters > 0) {
         m_block.wordUnits += changeUnits;
     }

@@ -23,6 +23,7 @@ enum class HtmlExcess {
     Columns,
     Cells,
     HiddenTable,
+    TableOrder,
     Floats,
     Height,
     Width,
@@ -112,6 +113,7 @@ private:
         double upright = 0;
         uint fontKey = 0;
         bool hidden = false;
+        bool skipsChildren = false;
     };
     struct Table
     {
@@ -126,6 +128,9 @@ private:
         double widestCell = 0;
         double cellUpright = 0;
         int cellSpan = 1;
+        bool inCell = false;
+        bool overlaps = false;
+        bool holdsTables = false;
         /** For each column: the row behind the last span and that span's width. */
         std::vector<int> freeFrom;
         std::vector<int> spanWidth;
@@ -197,6 +202,7 @@ private:
     int m_floats = 0;
     bool m_richText = false;
     bool m_keepsSpace = false;
+    bool m_blockClosed = false;
 };
 
 } // namespace lctrlsex
