@@ -11,9 +11,6 @@ namespace lctrlsex {
 
 namespace {
 
-// Kept on purpose because displays key on exactly this near-black.
-constexpr QRgb keyColor = qRgb(1, 2, 1);
-
 /** True when all \a size bytes are 0: the first ones are, and the rest repeats them. */
 bool isZero(const uchar *bytes, size_t size)
 {
@@ -89,6 +86,11 @@ void copyStrip(const QImage &image, const BlankRows &blank, int top, QImage *can
 
 } // namespace
 
+QColor canvasColor()
+{
+    return {1, 2, 1};
+}
+
 BlankRows blankRows(const QImage &argb)
 {
     const int height = argb.height();
@@ -133,7 +135,7 @@ QImage placeContent(const QImage &image, const QSize &itemSize, int contentAlign
         copyStrip(content, blank, top, &canvas);
         return canvas;
     }
-    canvas.fill(keyColor);
+    canvas.fill(canvasColor());
     content.setDevicePixelRatio(1.0);
     if (stripHeight > 0) {
         QPainter painter(&canvas);

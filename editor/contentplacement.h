@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QColor>
 #include <QImage>
 #include <QSize>
 
@@ -21,6 +22,12 @@ struct BlankRows
 [[nodiscard]] BlankRows blankRows(const QImage &argb);
 
 /**
+ * The opaque ground under a page whose item does not let the screen below show through, (1, 2, 1):
+ * kept on purpose because the display keys on exactly this near-black.
+ */
+[[nodiscard]] QColor canvasColor();
+
+/**
  * Places a finished page inside its item: the blank rows at its top and bottom are cut away (the
  * width is kept) and what remains is drawn at x = 0 and, by \a contentAlign, at the bottom
  * (Qt::AlignBottom, 0x40), at the top (Qt::AlignTop, 0x20) or, for any other value, at
@@ -28,7 +35,7 @@ struct BlankRows
  * is clipped.
  *
  * The canvas has \a itemSize pixels and is transparent, (0, 0, 0, 0), when \a textTransparent is
- * set, else opaque (1, 2, 1): kept on purpose because the display keys on exactly this near-black.
+ * set, else canvasColor().
  * The device pixel ratio of \a image is disregarded; the result has ratio 1.
  *
  * Returns QImage::Format_ARGB32; on the opaque canvas soft edges may differ by 1 of 255 from
