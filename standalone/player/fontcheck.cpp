@@ -10,6 +10,10 @@ namespace player {
 
 namespace {
 
+/** Whoever misses more than that has other things to mend first, and each query is slow. */
+constexpr int MostMissing = 20;
+constexpr int MostSubstitutes = 8;
+
 /** Calls @p visit with each run of text and its format. */
 template <typename Visitor>
 void forEachRun(const QTextDocument &document, Visitor visit)
@@ -47,14 +51,15 @@ QStringList missingFamilies(const QTextDocument &document, const QString &itemFa
     QStringList missing;
     const auto check = [&](const QStringList &families) {
         const QString &wanted = families.constFirst();
-        if (seen.contains(wanted)) {
+        if (seen.contains(wanted) || missing.size() >= MostMissing) {
             return;
         }
         seen.insert(wanted);
         // A list of families names its own substitutes, so the first installed one is as meant.
-        const bool isThere =
-            std::any_of(families.begin(), families.end(),
-                        [&database](const QString &family) { return database.hasFamily(family); });
+        const auto end = families.begin() + qMin(families.size(), MostSubstitutes);
+        const bool isThere = std::any_of(families.begin(), end, [&database](const QString &family) {
+            return database.hasFamily(family);
+        });
         if (!isThere) {
             missing.append(wanted);
         }

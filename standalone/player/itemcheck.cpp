@@ -88,6 +88,7 @@ private:
     void checkLines(const QTextBlock &block)
     {
         const QTextLayout *layout = block.layout();
+        const QString blockText = block.text();
         const QPointF origin =
             document().documentLayout()->blockBoundingRect(block).topLeft() - layout->position();
         for (int i = 0; i < layout->lineCount(); ++i) {
@@ -97,7 +98,7 @@ private:
                 ink |= run.boundingRect();
             }
             ink.translate(origin + layout->position());
-            const QString text = block.text().mid(line.textStart(), line.textLength());
+            const QString text = blockText.mid(line.textStart(), line.textLength());
             checkInk(ink, text);
         }
     }
