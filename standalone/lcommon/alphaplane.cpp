@@ -52,16 +52,15 @@ void AlphaPlane::filter(const AlphaPlane &source, int across, int down, Pick pic
             findBlank(y, blankAbsorbs);
         }
     }
-    // The window over rows grows by doubling; ascending, each row is read before it changes.
+    // The window over rows grows threefold; ascending, each row is read before it changes.
     const int window = 2 * down + 1;
-    int reach = 1;
-    while (reach < window) {
-        const int step = std::min(reach, window - reach);
-        m_rows -= step;
+    for (int reach = 1; reach < window;) {
+        const int growth = std::min(2 * reach, window - reach);
+        m_rows -= growth;
         for (int y = 0; y < m_rows; ++y) {
-            mergeRow(y, y + step, pick, blankAbsorbs);
+            mergeRows(y, y + growth / 2, y + growth, pick, blankAbsorbs);
         }
-        reach += step;
+        reach += growth;
     }
     for (int y = 0; y < m_rows; ++y) {
         findBlank(y, blankAbsorbs);
@@ -79,8 +78,9 @@ void AlphaPlane::findBlank(int index, bool isLikely)
 void AlphaPlane::filterRow(const uchar *source, uchar *target, int across, Pick pick)
 {
     const auto pad = size_t(across);
+    const auto width = size_t(m_width);
     const size_t window = 2 * pad + 1;
-    const size_t count = size_t(m_width) + 2 * pad;
+    const size_t count = width + 2 * pad;
     // Behind the row there is room for the furthest look ahead.
     const size_t room = count + window;
     if (m_scratch.size() < 2 * room) {
@@ -88,33 +88,25 @@ void AlphaPlane::filterRow(const uchar *source, uchar *target, int across, Pick 
     }
     uchar *from = m_scratch.data();
     uchar *to = from + room;
-    // Pairs of neighbours, the first and the last one with what lies beyond the edges.
-    const uchar beyond = 0;
-    const size_t last = size_t(m_width) - 1;
-    std::memset(from, beyond, pad - 1);
-    pick(from + pad - 1, &beyond, source, 1);
-    pick(from + pad, source, source + 1, int(last));
-    pick(from + pad + last, source + last, &beyond, 1);
-    std::memset(from + pad + last + 1, beyond, pad);
-    size_t reach = 2;
-    while (window - reach > reach) {
-        pick(to, from, from + reach, int(count));
+    std::memset(from, 0, pad);
+    std::memcpy(from + pad, source, width);
+    std::memset(from + pad + width, 0, pad);
+    size_t reach = 1;
+    for (; 3 * reach < window; reach *= 3) {
+        pick(to, from, from + reach, from + 2 * reach, int(count));
         std::swap(from, to);
-        reach *= 2;
     }
-    pick(target, from, from + (window - reach), m_width);
+    const size_t growth = window - reach;
+    pick(target, from, from + growth / 2, from + growth, m_width);
 }
 
-void AlphaPlane::mergeRow(int target, int other, Pick pick, bool blankAbsorbs)
+void AlphaPlane::mergeRows(int target, int second, int third, Pick pick, bool blankAbsorbs)
 {
-    if (isBlank(other)) {
-        if (blankAbsorbs) {
-            m_blank[size_t(target)] = 1;
-        }
-    } else if (!isBlank(target)) {
-        pick(bytes(target), bytes(target), bytes(other), m_width);
-    } else if (!blankAbsorbs) {
-        std::memcpy(takeRow(target), bytes(other), size_t(m_width));
+    if (blankAbsorbs && (isBlank(target) || isBlank(second) || isBlank(third))) {
+        m_blank[size_t(target)] = 1;
+    } else if (!isBlank(second) || !isBlank(third)) {
+        const uchar *first = row(target);
+        pick(takeRow(target), first, row(second), row(third), m_width);
     }
 }
 

@@ -52,13 +52,14 @@ public:
     void shrink(const AlphaPlane &source, int across, int down);
 
 private:
-    using Pick = void (*)(uchar *target, const uchar *first, const uchar *second, int count);
+    using Pick = void (*)(uchar *target, const uchar *first, const uchar *second,
+                          const uchar *third, int count);
 
     void filter(const AlphaPlane &source, int across, int down, Pick pick, bool blankAbsorbs);
     void filterRow(const uchar *source, uchar *target, int across, Pick pick);
     /** Marks row \a index when it is found to hold only zeros; looks only when that is likely. */
     void findBlank(int index, bool isLikely);
-    void mergeRow(int target, int other, Pick pick, bool blankAbsorbs);
+    void mergeRows(int target, int second, int third, Pick pick, bool blankAbsorbs);
     [[nodiscard]] uchar *bytes(int index)
     {
         return m_bytes.get() + size_t(index) * size_t(m_width);

@@ -22,9 +22,11 @@ using Painter = void (*)(QRgb *target, const QRgb *source, const uchar *coverage
 /** The inner loops of the image effects, over \a count values in a row. */
 struct Loops
 {
-    /** The larger or smaller of two; the target may be the first or lie wholly apart. */
-    void (*largest)(uchar *target, const uchar *first, const uchar *second, int count);
-    void (*smallest)(uchar *target, const uchar *first, const uchar *second, int count);
+    /** The largest or smallest of three; the target may be the first or lie wholly apart. */
+    void (*largest)(uchar *target, const uchar *first, const uchar *second, const uchar *third,
+                    int count);
+    void (*smallest)(uchar *target, const uchar *first, const uchar *second, const uchar *third,
+                     int count);
 
     /** The bits that are set in every pixel. */
     QRgb (*commonBits)(const QRgb *source, int count);

@@ -360,9 +360,9 @@ void TestImageEffects::processorsAgree()
         const auto ground = QRgb(random.generate());
         const auto outline = QRgb(random.generate());
         QVERIFY(bytesAgree([&](const Loops &l, uchar *out) {
-            l.largest(out, first, second, count);
-            l.smallest(out, out, second, count);
-            l.largest(out, out, first, count);
+            l.largest(out, first, second, first, count);
+            l.smallest(out, out, second, first, count);
+            l.largest(out, out, second, second, count);
         }));
         QVERIFY(bytesAgree(
             [&](const Loops &l, uchar *out) { l.alphas(out, pixels.constData(), count); }));
