@@ -1,20 +1,11 @@
 #include "htmlguardpass.h"
 
-#include <QColor>
-
 #include <algorithm>
-#include <cmath>
 
 namespace lctrlsex {
 
 namespace {
 
-constexpr double largestBorder = 999;
-constexpr double largestSize = 16384;
-constexpr double largestPercentage = 1000;
-constexpr int largestSpan = 1000;
-constexpr int mostRows = 1000000;
-constexpr int largestFontStep = 10;
 constexpr int longestName = 32;
 
 bool is(QStringView key, const char *name)
@@ -33,15 +24,6 @@ bool isPlainName(QStringView name)
 {
     return !name.isEmpty() && name.size() <= longestName &&
            std::all_of(name.begin(), name.end(), isNameSign);
-}
-
-bool isHexColor(const QString &value)
-{
-    return value.size() == 7 && value.at(0) == QLatin1Char('#') &&
-           std::all_of(value.begin() + 1, value.end(), [](QChar c) {
-               const ushort u = c.unicode() | 0x20U;
-               return (u >= '0' && u <= '9') || (u >= 'a' && u <= 'f');
-           });
 }
 
 } // namespace
@@ -221,136 +203,6 @@ void HtmlGuardPass::readMeta()
         m_workload.setRichTextMark();
     }
     m_workload.open(m_element, m_name, ElementRequest(), m_token.selfClosed);
-}
-
-void HtmlGuardPass::readAttribute(const HtmlAttribute &attribute, ElementRequest *request)
-{
-    const QStringView key = attribute.key;
-    switch (key[0].toLower().unicode()) {
-    case 's':
-        if (is(key, "style")) {
-            readStyle(attribute, request);
-        } else if (is(key, "size")) {
-            int step = 0;
-            readInteger(attribute, -largestFontStep, largestFontStep, &step);
-            request->fontKey = request->fontKey * 31U + uint(step) + 100U;
-        }
-        break;
-    case 'b':
-        if (is(key, "background")) {
-            drop(attribute.begin, attribute.end);
-        } else if (is(key, "border")) {
-            readNumber(attribute, largestBorder, &request->border);
-        } else if (is(key, "bgcolor") || is(key, "bordercolor")) {
-            checkColor(attribute);
-        }
-        break;
-    case 'c':
-        if (is(key, "cellpadding")) {
-            readNumber(attribute, largestBorder, &request->padding);
-        } else if (is(key, "cellspacing")) {
-            readNumber(attribute, largestBorder, &request->spacing);
-        } else if (is(key, "colspan")) {
-            readInteger(attribute, 1, largestSpan, &request->columnSpan);
-        } else if (is(key, "color")) {
-            checkColor(attribute);
-        }
-        break;
-    case 'w':
-    case 'h':
-        if (is(key, "width")) {
-            readSize(attribute, &request->width);
-        } else if (is(key, "height")) {
-            readSize(attribute, &request->height);
-        }
-        break;
-    case 'r':
-        if (is(key, "rowspan")) {
-            readInteger(attribute, 1, mostRows, &request->rowSpan);
-            request->rowSpanAttribute = &attribute;
-        }
-        break;
-    case 'a':
-        if (is(key, "align")) {
-            const QString side = attributeText(attribute).toLower();
-            request->floats = request->floats ||
-                              ((m_element.traits & ImageTrait) != 0 &&
-                               (side == QLatin1String("left") || side == QLatin1String("right")));
-        }
-        break;
-    case 'f':
-        if (is(key, "face")) {
-            request->fontKey = qHash(attribute.value, request->fontKey) | 1U;
-        }
-        break;
-    default:
-        break;
-    }
-}
-
-void HtmlGuardPass::readStyle(const HtmlAttribute &attribute, ElementRequest *request)
-{
-    const bool raw = attribute.quote == HtmlAttribute::Quote::Single ||
-                     !attribute.value.contains(QLatin1Char('&'));
-    const QString decoded = raw ? QString() : decodeEntities(attribute.value);
-    const CheckedStyle &style = m_styles.check(raw ? attribute.value : QStringView(decoded));
-    if (style.unchanged) {
-        request->style.merge(style.facts);
-    } else if (style.text.isEmpty()) {
-        drop(attribute.begin, attribute.end);
-    } else {
-        replaceAttribute(attribute, style.text);
-    }
-}
-
-void HtmlGuardPass::readSize(const HtmlAttribute &attribute, double *size)
-{
-    QString text = attributeText(attribute);
-    bool isNumber = false;
-    (void)text.toDouble(&isNumber);
-    const QString trimmed = text.trimmed();
-    if (isNumber || !trimmed.endsWith(QLatin1Char('%'))) {
-        readNumber(attribute, largestSize, size);
-        return;
-    }
-    const double percentage = trimmed.leftRef(trimmed.size() - 1).toDouble(&isNumber);
-    if (isNumber && !(percentage >= 0 && percentage <= largestPercentage)) {
-        replaceAttribute(attribute,
-                         percentage > 0 ? QStringLiteral("1000%") : QStringLiteral("0%"));
-    }
-}
-
-void HtmlGuardPass::readNumber(const HtmlAttribute &attribute, double most, double *number)
-{
-    bool isNumber = false;
-    double value = attributeText(attribute).toDouble(&isNumber);
-    if (isNumber && !(value >= 0 && value <= most)) {
-        value = value > most ? most : 0;
-        replaceAttribute(attribute, QString::number(value, 'f', 0));
-    }
-    *number = std::max(*number, isNumber ? value : 0);
-}
-
-void HtmlGuardPass::readInteger(const HtmlAttribute &attribute, int least, int most, int *number)
-{
-    bool isNumber = false;
-    const int value = attributeText(attribute).toInt(&isNumber);
-    if (!isNumber) {
-        return;
-    }
-    *number = std::clamp(value, least, most);
-    if (value != *number) {
-        replaceAttribute(attribute, QString::number(*number));
-    }
-}
-
-void HtmlGuardPass::checkColor(const HtmlAttribute &attribute)
-{
-    // Qt complains in the log about each colour that it does not know.
-    const QString value = attributeText(attribute);
-    if (!isHexColor(value) && !QColor::isValidColor(value)) {
-        drop(attribute.begin, attribute.end);
-    }
 }
 
 } // namespace lctrlsex

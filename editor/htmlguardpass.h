@@ -51,6 +51,8 @@ private:
     void readMeta();
     [[nodiscard]] bool readName();
     void readAttribute(const HtmlAttribute &attribute, ElementRequest *request);
+    void readFont(const HtmlAttribute &attribute, ElementRequest *request);
+    void readAlignment(const HtmlAttribute &attribute, ElementRequest *request);
     void readStyle(const HtmlAttribute &attribute, ElementRequest *request);
     void readSize(const HtmlAttribute &attribute, double *size);
     void readInteger(const HtmlAttribute &attribute, int least, int most, int *number);

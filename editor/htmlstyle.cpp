@@ -1,6 +1,7 @@
 #include "htmlstyle.h"
 
-#include <QColor>
+#include "cssnumber.h"
+
 #include <QHash>
 #include <QVector>
 
@@ -13,96 +14,11 @@ namespace {
 
 constexpr int longestStyle = 8192;
 constexpr int mostSheetRules = 16;
-constexpr double exPerEm = 1.0;
-
-/** The numbers of a property lie between these. */
-struct NumberRange
-{
-    double least;
-    double most;
-};
-
-struct NamedRange
-{
-    QLatin1String prefix;
-    NumberRange range;
-};
-
-// The first prefix that fits decides.
-const NamedRange ranges[] = {
-    {QLatin1String("-qt-block-indent"), {0, 100}},
-    {QLatin1String("-qt-list-indent"), {0, 100}},
-    {QLatin1String("-qt-user-state"), {-2147483647.0, 2147483647.0}},
-    {QLatin1String("font-size"), {1, 1000}},
-    {QLatin1String("font"), {0, 1000}},
-    {QLatin1String("line-height"), {0, 4096}},
-    {QLatin1String("letter-spacing"), {-256, 256}},
-    {QLatin1String("word-spacing"), {-256, 256}},
-    {QLatin1String("margin"), {-4096, 4096}},
-    {QLatin1String("text-indent"), {-4096, 4096}},
-    {QLatin1String("padding"), {0, 999}},
-    {QLatin1String("border"), {0, 999}},
-    {QLatin1String("width"), {0, 16384}},
-    {QLatin1String("height"), {0, 16384}},
-};
-constexpr NumberRange anyRange = {-16384, 16384};
 // A bare line height may be a factor, so only a small one leaves the lines of sane height.
 constexpr double mostLineFactor = 10;
-
-NumberRange rangeOf(const QString &property)
-{
-    for (const NamedRange &named : ranges) {
-        if (property.startsWith(named.prefix)) {
-            return named.range;
-        }
-    }
-    return anyRange;
-}
-
-struct Number
-{
-    bool valid = false;
-    double value = 0;
-    QString unit;
-
-    [[nodiscard]] double pixels() const
-    {
-        if (unit == QLatin1String("pt")) {
-            return value * 96 / 72;
-        }
-        const bool relative = unit == QLatin1String("em") || unit == QLatin1String("ex");
-        return relative ? value * 16 * exPerEm : value;
-    }
-};
-
-/** Reads a number as Qt's own conversions do, so that "1e30px" and "nan" are numbers here too. */
-Number readNumber(const QString &component)
-{
-    static const QLatin1String units[] = {QLatin1String("px"), QLatin1String("pt"),
-                                          QLatin1String("em"), QLatin1String("ex"),
-                                          QLatin1String("%")};
-    Number number;
-    QString digits = component.toLower();
-    for (const QLatin1String &unit : units) {
-        if (digits.endsWith(unit)) {
-            number.unit = unit;
-            digits.chop(unit.size());
-            break;
-        }
-    }
-    number.value = digits.toDouble(&number.valid);
-    if (!number.valid && !digits.isEmpty()) {
-        // "12furlong" and a number too large for a double still start like a number.
-        const bool isSigned =
-            digits.startsWith(QLatin1Char('+')) || digits.startsWith(QLatin1Char('-'));
-        const QChar first = digits.at(isSigned && digits.size() > 1 ? 1 : 0);
-        const bool numeric = first.isDigit() || first == QLatin1Char('.');
-        number.valid = numeric && !component.startsWith(QLatin1Char('#'));
-        number.value = number.valid ? std::nan("") : 0;
-    }
-    return number;
-}
-
+// The height of a font that the style does not name, and of the largest that it may name.
+constexpr double ordinaryEm = 64;
+constexpr double largestEm = 1500;
 bool isAllowedFunction(QStringView name)
 {
     static const QLatin1String names[] = {QLatin1String("rgb"), QLatin1String("rgba"),
@@ -110,32 +26,6 @@ bool isAllowedFunction(QStringView name)
                                           QLatin1String("hsv"), QLatin1String("hsva")};
     return std::any_of(std::begin(names), std::end(names), [name](QLatin1String known) {
         return name.compare(known, Qt::CaseInsensitive) == 0;
-    });
-}
-
-/**
- * Whether Qt reads the component as one word, colour or function. "a+9px" would be two values,
- * and a quoted number would count as a number.
- */
-bool isPlainComponent(const QString &component)
-{
-    if (component.endsWith(QLatin1Char(')'))) {
-        return component.indexOf(QLatin1Char('(')) > 0 && component.count(QLatin1Char(')')) == 1;
-    }
-    if (component.size() == 1 && !component.at(0).isLetterOrNumber()) {
-        const QChar c = component.at(0);
-        return c.isSpace() || c == QLatin1Char(',') || c == QLatin1Char('/');
-    }
-    if (component == QLatin1String("!important")) {
-        return true;
-    }
-    if (component.startsWith(QLatin1Char('#'))) {
-        // Qt complains in the log about each colour that it does not know.
-        return QColor::isValidColor(component);
-    }
-    return std::all_of(component.begin(), component.end(), [](QChar c) {
-        return c.isLetterOrNumber() || c == QLatin1Char('-') || c == QLatin1Char('_') ||
-               c == QLatin1Char('.') || c == QLatin1Char('%');
     });
 }
 
@@ -156,12 +46,13 @@ private:
     bool splitValue(const QString &value, QStringList *components) const;
     bool boundValue(const QString &property, QStringList *components, bool *changed);
     QString boundedComponent(const QString &property, const QString &component);
-    void note(const QString &property, const QString &component, const Number &number);
+    void note(const QString &property, const QString &component, const CssNumber &number);
     void noteBox(const QString &property, double pixels);
-    void noteLineHeight(const Number &number);
+    void noteLineHeight(const CssNumber &number);
     void noteFont(const QString &property, const QString &value);
 
     QString m_style;
+    double m_em;
     QStringList m_declarations;
     QStringList m_kept;
     CheckedStyle m_result;
@@ -291,7 +182,7 @@ void StyleReader::readDeclaration(const QString &declaration)
 bool StyleReader::boundValue(const QString &property, QStringList *components, bool *changed)
 {
     for (QString &component : *components) {
-        if (!isPlainComponent(component) && !readNumber(component).valid) {
+        if (!isPlainCssComponent(component) && !readCssNumber(component).valid) {
             return false;
         }
         const QString bounded = boundedComponent(property, component);
@@ -303,12 +194,12 @@ bool StyleReader::boundValue(const QString &property, QStringList *components, b
 
 QString StyleReader::boundedComponent(const QString &property, const QString &component)
 {
-    Number number = readNumber(component);
+    CssNumber number = readCssNumber(component);
     if (!number.valid) {
         note(property, component, number);
         return component;
     }
-    NumberRange range = rangeOf(property);
+    CssRange range = cssRangeOf(property);
     if (property == QLatin1String("line-height") && number.unit.isEmpty()) {
         // Behind -qt-line-height-type a bare number is a length or a percentage, not a factor.
         const bool factor =
@@ -316,6 +207,9 @@ QString StyleReader::boundedComponent(const QString &property, const QString &co
         range.most = factor ? mostLineFactor : 4096;
     } else if (property == QLatin1String("line-height") && number.unit == QLatin1String("%")) {
         range.most = mostLineFactor * 100;
+    }
+    if (number.isRelative()) {
+        range = {range.least / ordinaryEm, range.most / ordinaryEm};
     }
     const bool inside = number.value >= range.least && number.value <= range.most;
     if (!inside) {
@@ -344,7 +238,7 @@ void StyleReader::noteBox(const QString &property, double pixels)
     }
 }
 
-void StyleReader::noteLineHeight(const Number &number)
+void StyleReader::noteLineHeight(const CssNumber &number)
 {
     StyleFacts &facts = m_result.facts;
     if (number.unit == QLatin1String("%")) {
@@ -354,11 +248,11 @@ void StyleReader::noteLineHeight(const Number &number)
         facts.lineFactor = qMax(facts.lineFactor, factor ? number.value : number.value / 100);
         facts.lineHeight = qMax(facts.lineHeight, factor ? 0.0 : number.value);
     } else {
-        facts.lineHeight = qMax(facts.lineHeight, number.pixels());
+        facts.lineHeight = qMax(facts.lineHeight, number.pixels(m_em));
     }
 }
 
-void StyleReader::note(const QString &property, const QString &component, const Number &number)
+void StyleReader::note(const QString &property, const QString &component, const CssNumber &number)
 {
     StyleFacts &facts = m_result.facts;
     if (property == QLatin1String("float")) {
@@ -374,20 +268,27 @@ void StyleReader::note(const QString &property, const QString &component, const 
         return;
     }
     if (property == QLatin1String("font-size") || property == QLatin1String("font")) {
-        facts.fontSize = qMax(facts.fontSize, number.pixels());
+        // Qt passes over any unit but points and whole pixels.
+        bool whole = false;
+        (void)component.chopped(number.unit.size()).toInt(&whole);
+        const bool heeded =
+            number.unit == QLatin1String("pt") || (whole && number.unit == QLatin1String("px"));
+        facts.fontSize = heeded ? qMax(facts.fontSize, number.pixels(m_em)) : facts.fontSize;
     } else if (property == QLatin1String("line-height")) {
         noteLineHeight(number);
     } else if (property == QLatin1String("letter-spacing") ||
                property == QLatin1String("word-spacing")) {
-        facts.letterSpacing += std::abs(number.pixels());
+        facts.letterSpacing += std::abs(number.pixels(m_em));
     } else if (property == QLatin1String("text-indent")) {
-        facts.sideways += std::abs(number.pixels());
+        facts.sideways += std::abs(number.pixels(m_em));
     } else if (property == QLatin1String("-qt-block-indent")) {
         facts.sideways += number.value * 40;
     } else if (property.startsWith(QLatin1String("margin")) ||
                property.startsWith(QLatin1String("padding")) ||
                property.startsWith(QLatin1String("border"))) {
-        noteBox(property, number.pixels());
+        noteBox(property, number.pixels(m_em));
+        const bool border = property.startsWith(QLatin1String("border"));
+        facts.border = qMax(facts.border, border ? number.pixels(m_em) : 0.0);
     }
 }
 
@@ -406,6 +307,7 @@ void StyleFacts::merge(const StyleFacts &other)
     fontSize = qMax(fontSize, other.fontSize);
     sideways += other.sideways;
     upright += other.upright;
+    border = qMax(border, other.border);
     lineHeight = qMax(lineHeight, other.lineHeight);
     lineFactor = qMax(lineFactor, other.lineFactor);
     letterSpacing += other.letterSpacing;

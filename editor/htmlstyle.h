@@ -16,6 +16,8 @@ struct StyleFacts
     double sideways = 0;
     /** Sum of the top and bottom margins and paddings and borders, in pixels. */
     double upright = 0;
+    /** Widest border in pixels; a table has it around each cell. */
+    double border = 0;
     /** Height of a line in pixels when it is given so, else 0. */
     double lineHeight = 0;
     /** Height of a line as a multiple of the font's. */

@@ -187,7 +187,7 @@ HtmlEntity readEntity(QStringView html, int pos)
             name.mid(hexadecimal ? 2 : 1).toString().toUInt(&ok, hexadecimal ? 16 : 10);
         return ok ? HtmlEntity{length, code} : HtmlEntity{};
     }
-    static constexpr struct
+    static const struct
     {
         QLatin1String name;
         uint code;

@@ -58,6 +58,8 @@ struct ElementRequest
     /** Anything of a font that is not in the style. */
     uint fontKey = 0;
     bool floats = false;
+    /** How many style attributes there are; Qt applies each. */
+    int styles = 0;
 };
 
 /**
@@ -149,7 +151,7 @@ private:
         double sideways = 0;
         double wordCharacters = 0;
         double wordUnits = 0;
-        double wordFontSize = 0;
+        double wordImageHeight = 0;
     };
 
     [[nodiscard]] const Element &top() const { return m_open.back(); }

@@ -203,7 +203,9 @@ QString hostileDocument(const QString &name)
     if (!file.open(QIODevice::ReadOnly)) {
         return QString();
     }
-    QString html = QString::fromUtf8(file.readAll());
+    // With the size given, because a null character does not end a document.
+    const QByteArray bytes = file.readAll();
+    QString html = QString::fromUtf8(bytes.constData(), bytes.size());
     return html.replace(QStringLiteral("@CANARY@"), canaryFolder());
 }
 

@@ -1,0 +1,109 @@
+#!/usr/bin/env python3
+"""Writes the seeds that are made, not found: pictures, stored texts and short markup."""
+
+import base64
+import pathlib
+import struct
+import zlib
+
+CORPUS = pathlib.Path(__file__).parent / "corpus"
+
+
+def write(target, name, data):
+    folder = CORPUS / target
+    folder.mkdir(parents=True, exist_ok=True)
+    (folder / name).write_bytes(data)
+
+
+def chunk(kind, data):
+    body = kind + data
+    return struct.pack(">I", len(data)) + body + struct.pack(">I", zlib.crc32(body))
+
+
+def png(width, height, depth, colour, claimed=None):
+    samples = {0: 1, 2: 3, 3: 1, 4: 2, 6: 4}[colour]
+    line = (width * samples * depth + 7) // 8
+    raw = b"".join(b"\0" + bytes((x * y) & 255 for x in range(line)) for y in range(height))
+    size = claimed or (width, height)
+    header = struct.pack(">IIBBBBB", size[0], size[1], depth, colour, 0, 0, 0)
+    palette = chunk(b"PLTE", bytes(range(48))) if colour == 3 else b""
+    return (b"\x89PNG\r\n\x1a\n" + chunk(b"IHDR", header) + palette
+            + chunk(b"IDAT", zlib.compress(raw)) + chunk(b"IEND", b""))
+
+
+def bmp(width, height, depth, compression=0, pixels=None):
+    stride = (abs(width) * depth + 31) // 32 * 4
+    body = pixels if pixels is not None else bytes(stride * abs(height))
+    palette = bytes(4 * (1 << depth)) if depth <= 8 else b""
+    offset = 54 + len(palette)
+    return (b"BM" + struct.pack("<IHHI", offset + len(body), 0, 0, offset)
+            + struct.pack("<IiiHHIIiiII", 40, width, height, 1, depth, compression, len(body),
+                          0, 0, 0, 0) + palette + body)
+
+
+GIF = base64.b64decode("R0lGODlhAgACAPAAAP8AAAAA/yH5BAAAAAAALAAAAAACAAIAAAIDRAIFADs=")
+# The smallest grey JPEG of one block.
+JPEG = bytes.fromhex(
+    "ffd8ffdb004300" + "01" * 64 + "ffc0000b080001000101011100"
+    "ffc4001400010000000000000000000000000000000a"
+    "ffc40014100100000000000000000000000000000000ffda0008010100003f0054dfffd9")
+
+
+def pictures():
+    for colour, depths in {0: (1, 2, 4, 8, 16), 2: (8, 16), 3: (1, 2, 4), 4: (8, 16),
+                           6: (8, 16)}.items():
+        for depth in depths:
+            write("rasterimage", f"png-{colour}-{depth}", png(5, 3, depth, colour))
+    for size in ((0, 1), (1, 0), (16385, 1), (16384, 16384), (2 ** 31 - 1, 1), (9, 9)):
+        write("rasterimage", f"png-claims-{size[0]}-{size[1]}", png(5, 3, 8, 2, size))
+    for depth in (1, 4, 8, 16, 24, 32):
+        write("rasterimage", f"bmp-{depth}", bmp(5, 3, depth))
+        write("rasterimage", f"bmp-{depth}-upside-down", bmp(5, -3, depth))
+    write("rasterimage", "bmp-rle8", bmp(4, 2, 8, 1, b"\4\1\0\0\4\2\0\1"))
+    write("rasterimage", "bmp-rle4", bmp(4, 2, 4, 2, b"\4\1\0\0\4\2\0\1"))
+    write("rasterimage", "bmp-rle8-jump", bmp(4, 2, 8, 1, b"\0\2\xff\xff\4\1\0\1"))
+    for size in ((-1, 1), (20000, 20000), (2 ** 31 - 1, -2 ** 31)):
+        write("rasterimage", f"bmp-claims-{size[0]}-{size[1]}", bmp(*size, 24, 0, bytes(48)))
+    for name, whole in (("gif", GIF), ("jpeg", JPEG), ("png", png(5, 3, 8, 2))):
+        write("rasterimage", name, whole)
+        for part in (1, 2, 3):
+            write("rasterimage", f"{name}-cut-{part}", whole[:len(whole) * part // 4])
+    for name, head in (("svg", b"<svg width='9'/>"), ("text", b"canary"), ("empty", b"")):
+        write("rasterimage", name, head)
+
+
+def texts():
+    samples = ["", "a", "ab", "abc", "<p>a</p>", "\u6e29\u5ea6", "\U0001f600", "\ufeffa", "\0",
+               "\ufffe\uffff", "<table><tr><td>a</td></tr></table>", "a" * 100]
+    for i, sample in enumerate(samples):
+        stored = base64.b64encode(sample.encode())
+        write("documentstorage", f"text-{i}", stored)
+        write("documentstorage", f"text-{i}-blanks", b" " + stored[:3] + b"\r\n\t" + stored[3:])
+        write("documentstorage", f"text-{i}-cut", stored[:-1])
+        write("documentstorage", f"text-{i}-more", stored + b"=")
+    for i, flaw in enumerate([b"=", b"====", b"Y===", b"YQ=Y", b"YR==", b"YWJj*GFi", b"_-__",
+                              b"\xc3\x81YWJ", b"YQ==YQ==", b"\0\0\0\0"]):
+        write("documentstorage", f"flaw-{i}", flaw)
+    for i, data in enumerate([b"\xff", b"\xc0\x80", b"\xed\xa0\x80", b"ab\xe6\xb8", b"\xf4\x90\x80\x80"]):
+        write("documentstorage", f"utf8-{i}", base64.b64encode(data))
+
+
+def markup():
+    numbers = ["0", "-1", "999", "2147483648", "1e30", "nan", "inf", "50%", "9px", "1e9pt", "''"]
+    for i, number in enumerate(numbers):
+        write("htmlguard", f"attributes-{i}",
+              f"<table border={number} width={number}><tr><td colspan={number} rowspan={number}>"
+              f"a</table><img width={number} height={number}><font size={number}>b".encode())
+        write("htmlguard", f"styles-{i}",
+              f"<p style='margin:{number};font-size:{number};line-height:{number}'>a"
+              f"<td style='padding:{number} {number};border:{number} solid'>b".encode())
+    tags = ["b", "p", "li", "ul", "table", "tr", "td", "th", "br", "img", "pre", "dl", "dd",
+            "thead", "caption", "head", "style", "script", "title", "div"]
+    for first, second in zip(tags, tags[1:] + tags[:1]):
+        write("htmlguard", f"tags-{first}",
+              f"<{first}>a<{second}>b<{first}>c</{second}>d</{first}>e<{first}/>f".encode())
+
+
+pictures()
+texts()
+markup()
