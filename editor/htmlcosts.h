@@ -25,6 +25,7 @@ inline constexpr double mostWork = 1e9;
 // Measured with Qt 5.15.8, in nanoseconds and bytes, rounded up.
 inline constexpr double openTagTime = 1500;
 inline constexpr double fontTagTime = 2000;
+inline constexpr double linkTime = 3500;
 inline constexpr double styleTime = 1500;
 inline constexpr double closeTagTime = 700;
 inline constexpr double perDepthTime = 18;

@@ -22,7 +22,7 @@ constexpr NamedElement named(const char (&name)[size], unsigned traits)
 
 // In the order of the names.
 constexpr NamedElement elements[] = {
-    named("a", FontTrait),
+    named("a", FontTrait | LinkTrait),
     named("address", FontTrait),
     named("applet", RefusedTrait),
     named("area", RefusedTrait),

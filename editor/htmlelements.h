@@ -41,6 +41,7 @@ enum HtmlTrait : unsigned {
     LargeTrait = 1U << 24,
     MetaTrait = 1U << 25,
     QuoteTrait = 1U << 26,
+    LinkTrait = 1U << 27,
 };
 
 /** A known element; id is 0 for others. */

@@ -29,6 +29,19 @@ bool isAllowedFunction(QStringView name)
     });
 }
 
+/** Whether a declaration says, beyond doubt, that line heights are lengths or percentages. */
+bool namesLineType(const QString &declaration)
+{
+    static const QLatin1String types[] = {QLatin1String("fixed"), QLatin1String("minimum"),
+                                          QLatin1String("proportional"),
+                                          QLatin1String("line-distance")};
+    const QString text = declaration.simplified().toLower();
+    return std::any_of(std::begin(types), std::end(types), [&text](QLatin1String type) {
+        const QLatin1String property("-qt-line-height-type:");
+        return text.startsWith(property) && text.mid(property.size()).trimmed() == type;
+    });
+}
+
 /** Splits a style into declarations and each of them into components. */
 class StyleReader
 {
@@ -53,6 +66,7 @@ private:
 
     QString m_style;
     double m_em;
+    bool m_hasLineType = false;
     QStringList m_declarations;
     QStringList m_kept;
     CheckedStyle m_result;
@@ -110,6 +124,7 @@ CheckedStyle StyleReader::read()
         m_result.unchanged = false;
         return m_result;
     }
+    m_hasLineType = std::any_of(m_declarations.cbegin(), m_declarations.cend(), namesLineType);
     for (const QString &declaration : qAsConst(m_declarations)) {
         readDeclaration(declaration);
     }
@@ -202,9 +217,7 @@ QString StyleReader::boundedComponent(const QString &property, const QString &co
     CssRange range = cssRangeOf(property);
     if (property == QLatin1String("line-height") && number.unit.isEmpty()) {
         // Behind -qt-line-height-type a bare number is a length or a percentage, not a factor.
-        const bool factor =
-            !m_style.contains(QLatin1String("-qt-line-height-type"), Qt::CaseInsensitive);
-        range.most = factor ? mostLineFactor : 4096;
+        range.most = m_hasLineType ? range.most : mostLineFactor;
     } else if (property == QLatin1String("line-height") && number.unit == QLatin1String("%")) {
         range.most = mostLineFactor * 100;
     }
@@ -243,10 +256,11 @@ void StyleReader::noteLineHeight(const CssNumber &number)
     StyleFacts &facts = m_result.facts;
     if (number.unit == QLatin1String("%")) {
         facts.lineFactor = qMax(facts.lineFactor, number.value / 100);
+        facts.lineHeight = qMax(facts.lineHeight, m_hasLineType ? number.value : 0);
     } else if (number.unit.isEmpty()) {
-        const bool factor = number.value <= mostLineFactor;
-        facts.lineFactor = qMax(facts.lineFactor, factor ? number.value : number.value / 100);
-        facts.lineHeight = qMax(facts.lineHeight, factor ? 0.0 : number.value);
+        const double factor = m_hasLineType ? number.value / 100 : number.value;
+        facts.lineFactor = qMax(facts.lineFactor, factor);
+        facts.lineHeight = qMax(facts.lineHeight, m_hasLineType ? number.value : 0);
     } else {
         facts.lineHeight = qMax(facts.lineHeight, number.pixels(m_em));
     }

@@ -16,9 +16,9 @@ struct RasterImage
 };
 
 /** Most bytes that a picture may have. */
-constexpr qint64 largestRasterData = 16 * 1024 * 1024;
+constexpr qint64 largestRasterData = qint64(16) * 1024 * 1024;
 /** Most pixels in all and on a side. */
-constexpr qint64 mostRasterPixels = 64 * 1024 * 1024;
+constexpr qint64 mostRasterPixels = qint64(64) * 1024 * 1024;
 constexpr int longestRasterSide = 16384;
 
 /**
