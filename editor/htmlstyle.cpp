@@ -47,6 +47,7 @@ class StyleReader
 public:
     explicit StyleReader(const QString &style)
         : m_style(style)
+        , m_em(style.contains(QLatin1String("font"), Qt::CaseInsensitive) ? largestEm : ordinaryEm)
     {}
 
     CheckedStyle read();
@@ -64,7 +65,7 @@ private:
     void noteFont(const QString &property, const QString &value);
 
     QString m_style;
-    double m_em;
+    double m_em = ordinaryEm;
     bool m_hasLineType = false;
     QStringList m_declarations;
     QStringList m_kept;

@@ -78,6 +78,7 @@ void HtmlWorkload::open(const HtmlElement &element, QStringView name, const Elem
     const uint id = element.id != 0 ? element.id : idOfUnknown(name);
     m_work +=
         openTagTime + ((traits & FontTrait) != 0 ? fontTagTime : 0) + request.styles * styleTime;
+    m_work += (traits & LinkTrait) != 0 ? linkTime : 0;
     m_tangle += double(m_open.size()) * perDepthTime;
     m_memory += 2 * tagMemory;
     m_keepsSpace = m_keepsSpace || request.style.keepsSpace || (traits & PreTrait) != 0;
