@@ -12,6 +12,7 @@ build="$root/build/release"
 
 log="$build.log"
 mkdir -p "$build"
+[ -x "$build/bin/pagerender" ] || echo "Building for the first time; this takes a minute or two." >&2
 if ! { [ -f "$build/build.ninja" ] || (cd "$root" && cmake --preset release); } >"$log" 2>&1 ||
    ! cmake --build "$build" >>"$log" 2>&1; then
     cat "$log" >&2

@@ -1,27 +1,18 @@
-// The page image of a document that is being edited, beside its floor: filling an image and drawing
-// the contents of a document that is laid out at the page's width already. The document is as long
-// as the row says; the floor draws the same first page.
+// The page image of a document that is being edited, drawn and placed inside its item. The floor
+// fills an image and draws the same first page of a document that is laid out already; how long the
+// document is must not show.
 
 #include "contentplacement.h"
 #include "documentsetup.h"
+#include "floors.h"
 #include "itemdocument.h"
 #include "pagerenderer.h"
 
-#include <QGuiApplication>
-#include <QPainter>
 #include <QTextCursor>
-
-#include <benchmark/benchmark.h>
-
-#include <algorithm>
-#include <chrono>
-#include <vector>
 
 using namespace lctrlsex;
 
 namespace {
-
-using Clock = std::chrono::steady_clock;
 
 QString longText(int paragraphs)
 {
@@ -37,126 +28,102 @@ QString longText(int paragraphs)
     return html;
 }
 
-void loadForEditing(ItemDocument *document, int paragraphs)
+/** A document of a view and the same one laid out for the page, ready to be drawn. */
+class Documents
 {
-    prepareView(document, {});
-    document->setHtml(longText(paragraphs));
-}
-
-PageStyle styleFor(const benchmark::State &state)
-{
-    PageStyle style;
-    style.size = QSize(int(state.range(0)), int(state.range(1)));
-    style.isTransparent = state.range(3) != 0;
-    style.background = QColor(20, 20, 40);
-    return style;
-}
-
-/** Fill and draw, nothing else. */
-void drawFloor(QTextDocument *laidOut, const PageStyle &style)
-{
-    QImage image(style.size, QImage::Format_ARGB32);
-    image.fill(style.isTransparent ? QColor(Qt::transparent) : style.background);
-    QPainter painter(&image);
-    painter.setRenderHint(QPainter::TextAntialiasing, true);
-    laidOut->drawContents(&painter, image.rect());
-    painter.end();
-    benchmark::DoNotOptimize(image.constBits());
-}
-
-double median(std::vector<double> values)
-{
-    std::sort(values.begin(), values.end());
-    return values[values.size() / 2];
-}
-
-/** Runs @p work and @p floor in turn, reports both and the median ratio of the pairs. */
-template <typename Work, typename Floor>
-void compare(benchmark::State &state, Work work, Floor floor)
-{
-    std::vector<double> ratios;
-    std::vector<double> floors;
-    for (auto _ : state) {
-        const auto start = Clock::now();
-        floor();
-        const auto middle = Clock::now();
-        work();
-        const auto end = Clock::now();
-        const double floorTime = std::chrono::duration<double>(middle - start).count();
-        const double workTime = std::chrono::duration<double>(end - middle).count();
-        floors.push_back(floorTime * 1e6);
-        ratios.push_back(workTime / floorTime);
-        state.SetIterationTime(workTime);
+public:
+    Documents(int paragraphs, const PageStyle &style)
+        : m_style(style)
+    {
+        prepareView(&m_edited, {});
+        m_edited.setHtml(longText(paragraphs));
+        m_laidOut.loadItem(longText(paragraphs), {});
+        m_laidOut.setTextWidth(style.size.width());
     }
-    state.counters["floor_us"] = median(floors);
-    state.counters["ratio"] = median(ratios);
+
+    void drawFloor()
+    {
+        QImage canvas(m_style.size, QImage::Format_ARGB32);
+        floors::drawDocument(&m_laidOut, &canvas,
+                             m_style.isTransparent ? QColor(Qt::transparent) : m_style.background);
+        benchmark::DoNotOptimize(canvas.constBits());
+    }
+
+    void drawPage()
+    {
+        const QImage page = m_renderer.topPage(&m_edited, m_style);
+        const QImage placed = placeContent(page, m_style.size, Qt::AlignVCenter, false);
+        benchmark::DoNotOptimize(placed.constBits());
+    }
+
+    void editAtEnd()
+    {
+        QTextCursor cursor(&m_edited);
+        cursor.movePosition(QTextCursor::End);
+        cursor.insertText(QStringLiteral("x"));
+        cursor.deletePreviousChar();
+    }
+
+private:
+    PageStyle m_style;
+    ItemDocument m_edited;
+    ItemDocument m_laidOut;
+    PageRenderer m_renderer;
+};
+
+void pageImage(benchmark::State &state, int paragraphs, const PageStyle &style)
+{
+    Documents documents(paragraphs, style);
+    floors::besideFloors(state, [&] { documents.drawPage(); }, {{"draw", [&] {
+                                                                     documents.drawFloor();
+                                                                 }}});
 }
 
-/** The page of an unchanged document, as far as fill and draw go, and placed inside the item. */
-void pageImage(benchmark::State &state)
+/** An edit below the page: the floor makes the same edit and draws without any bookkeeping. */
+void editBelow(benchmark::State &state, int paragraphs, const PageStyle &style)
 {
-    const PageStyle style = styleFor(state);
-    ItemDocument document;
-    loadForEditing(&document, int(state.range(2)));
-    ItemDocument laidOut;
-    laidOut.loadItem(longText(int(state.range(2))), {});
-    laidOut.setTextWidth(style.size.width());
-    PageRenderer renderer;
-    compare(
-        state,
-        [&] {
-            const QImage page = renderer.topPage(&document, style);
-            const QImage placed = placeContent(page, style.size, Qt::AlignVCenter, false);
-            benchmark::DoNotOptimize(placed.constBits());
-        },
-        [&] { drawFloor(&laidOut, style); });
+    Documents documents(paragraphs, style);
+    const auto edited = [&] {
+        documents.editAtEnd();
+        documents.drawPage();
+    };
+    const auto floor = [&] {
+        documents.editAtEnd();
+        documents.drawFloor();
+    };
+    floors::besideFloors(state, edited, {{"edit_draw", floor}});
 }
 
-/** The same after an edit below the page, which must cost nothing more. */
-void pageImageEditBelow(benchmark::State &state)
+void addAll()
 {
-    const PageStyle style = styleFor(state);
-    ItemDocument document;
-    loadForEditing(&document, int(state.range(2)));
-    ItemDocument laidOut;
-    laidOut.loadItem(longText(int(state.range(2))), {});
-    laidOut.setTextWidth(style.size.width());
-    PageRenderer renderer;
-    QTextCursor cursor(&document);
-    cursor.movePosition(QTextCursor::End);
-    compare(
-        state, [&] { benchmark::DoNotOptimize(renderer.topPage(&document, style).constBits()); },
-        [&] {
-            drawFloor(&laidOut, style);
-            cursor.insertText(QStringLiteral("x"));
-            cursor.deletePreviousChar();
-        });
-}
-
-void sizes(benchmark::internal::Benchmark *bench)
-{
-    bench->ArgNames({"w", "h", "paragraphs", "transparent"})->UseManualTime();
-    const std::vector<std::vector<int64_t>> pages{{256, 64}, {1920, 1080}, {3840, 2160}};
-    for (const auto &page : pages) {
-        for (const int64_t paragraphs : {200, 2000}) {
-            for (const int64_t transparent : {0, 1}) {
-                bench->Args({page[0], page[1], paragraphs, transparent});
+    const auto add = [](const std::string &name, const auto &run) {
+        benchmark::RegisterBenchmark(name.c_str(), run)
+            ->UseManualTime()
+            ->Unit(benchmark::kMicrosecond);
+    };
+    for (const QSize &size : {QSize(256, 64), QSize(1920, 1080), QSize(3840, 2160)}) {
+        for (const int paragraphs : {200, 2000}) {
+            for (const bool transparent : {false, true}) {
+                PageStyle style;
+                style.size = size;
+                style.isTransparent = transparent;
+                style.background = QColor(20, 20, 40);
+                const std::string name =
+                    '/' + std::to_string(size.width()) + 'x' + std::to_string(size.height()) + '/' +
+                    std::to_string(paragraphs) + (transparent ? "/transparent" : "/opaque");
+                add("pageImage" + name,
+                    [=](benchmark::State &state) { pageImage(state, paragraphs, style); });
+                add("editBelow" + name,
+                    [=](benchmark::State &state) { editBelow(state, paragraphs, style); });
             }
         }
     }
-    bench->Unit(benchmark::kMicrosecond);
 }
-
-BENCHMARK(pageImage)->Apply(sizes);
-BENCHMARK(pageImageEditBelow)->Apply(sizes);
 
 } // namespace
 
 int main(int argc, char **argv)
 {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    QGuiApplication application(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
+    addAll();
+    return floors::runBenchmarks(argc, argv);
 }

@@ -109,18 +109,20 @@ BlankRows blankRows(const QImage &argb)
     return {top, bottom};
 }
 
-QImage placeContent(const QImage &image, const QSize &itemSize, int contentAlign,
-                    bool textTransparent)
+QImage placeContent(QImage image, const QSize &itemSize, int contentAlign, bool textTransparent)
 {
     if (image.isNull() || itemSize.isEmpty()) {
         return image;
     }
+    // Known to be opaque, and the same bytes either way: neither looked at nor copied.
+    const bool isKnownOpaque =
+        image.format() == QImage::Format_RGB32 && image.reinterpretAsFormat(QImage::Format_ARGB32);
     QImage content = image.convertToFormat(QImage::Format_ARGB32);
     if (content.isNull()) {
         return image;
     }
     if (content.size() == itemSize && qFuzzyCompare(content.devicePixelRatio(), 1.0) &&
-        isOpaque(content)) {
+        (isKnownOpaque || isOpaque(content))) {
         return content;
     }
     QImage canvas(itemSize,

@@ -43,7 +43,7 @@ struct BlankRows
  * \a itemSize is empty, or when memory runs out, and shares its pixels when it is opaque ARGB32
  * of the item's size. Any thread.
  */
-[[nodiscard]] QImage placeContent(const QImage &image, const QSize &itemSize, int contentAlign,
+[[nodiscard]] QImage placeContent(QImage image, const QSize &itemSize, int contentAlign,
                                   bool textTransparent);
 
 } // namespace lctrlsex

@@ -16,8 +16,9 @@ constexpr int longestStyle = 8192;
 constexpr int mostSheetRules = 16;
 // A bare line height may be a factor, so only a small one leaves the lines of sane height.
 constexpr double mostLineFactor = 10;
-// The height of a font that the style does not name.
+// The height of a font that the style does not name, and of the largest that it may name.
 constexpr double ordinaryEm = 64;
+constexpr double largestEm = 1500;
 bool isAllowedFunction(QStringView name)
 {
     static const QLatin1String names[] = {QLatin1String("rgb"), QLatin1String("rgba"),

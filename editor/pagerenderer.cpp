@@ -21,14 +21,9 @@ QPalette pagePalette()
 
 QImage groundFor(const PageStyle &style)
 {
-    // On an opaque ground both forms hold the same bytes and this one is drawn faster.
-    QImage image(style.size,
-                 style.isTransparent ? QImage::Format_ARGB32 : QImage::Format_ARGB32_Premultiplied);
-    QColor ground = style.isTransparent ? QColor(Qt::transparent) : style.background;
-    if (!style.isTransparent) {
-        ground.setAlpha(255);
-    }
-    image.fill(ground);
+    // The format says that a page is opaque, so that nobody has to look at every pixel.
+    QImage image(style.size, style.isTransparent ? QImage::Format_ARGB32 : QImage::Format_RGB32);
+    image.fill(style.isTransparent ? QColor(Qt::transparent) : style.background);
     return image;
 }
 
@@ -69,24 +64,22 @@ QImage drawSlice(QTextDocument *document, const PageStyle &style, const PageSlic
     const qreal height = qMin(slice.bottom - slice.top, style.size.height() - slice.drawnAt);
     drawContents(document, &painter, QRectF(0, slice.top, style.size.width(), height));
     painter.end();
-    image.reinterpretAsFormat(QImage::Format_ARGB32);
     return image;
 }
 
-QImage finishPage(const QImage &page, const QSize &size, const PageFinish &finish,
+QImage finishPage(QImage image, const QSize &size, const PageFinish &finish,
                   const PageEffects &effects)
 {
-    if (page.isNull() || !isPageSize(size)) {
-        return page;
+    if (image.isNull() || !isPageSize(size)) {
+        return image;
     }
-    QImage image = page;
     if (finish.isHollow) {
         image = effects.hollow(image);
     }
     if (finish.hasStroke) {
         image = effects.stroke(image, finish.strokeColor);
     }
-    return placeContent(image, size, finish.contentAlign, finish.textTransparent);
+    return placeContent(std::move(image), size, finish.contentAlign, finish.textTransparent);
 }
 
 QImage PageRenderer::topPage(const QTextDocument *source, const PageStyle &style)

@@ -47,7 +47,7 @@ struct PageEffects
 
 /**
  * Draws the top of @p document, which is laid out at the page's width already, on the ground of
- * @p style. Format_ARGB32; null when the size is not a page size.
+ * @p style. Format_ARGB32, Format_RGB32 on an opaque ground; null when the size is no page size.
  */
 [[nodiscard]] QImage drawTop(QTextDocument *document, const PageStyle &style);
 
@@ -60,7 +60,7 @@ struct PageEffects
  * gives it: hollow, then stroke, then placed inside the item by the content alignment. A null
  * @p page or a size that is no page size comes back unchanged.
  */
-[[nodiscard]] QImage finishPage(const QImage &page, const QSize &size, const PageFinish &finish,
+[[nodiscard]] QImage finishPage(QImage page, const QSize &size, const PageFinish &finish,
                                 const PageEffects &effects);
 
 /**

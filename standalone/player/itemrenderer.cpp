@@ -44,7 +44,9 @@ ItemRenderer::ItemRenderer(LTextEffectNode *node, const QString &place, const QS
     if (!load()) {
         return;
     }
-    m_document.setTextWidth(m_style.size.width());
+    // A height of 0 and not setTextWidth(): with that one Qt lays out for ever what ends just below
+    // pixel 8 388 607.
+    m_document.setPageSize(QSizeF(m_style.size.width(), 0));
     m_slices = paginate(m_document, m_style.size.height());
     if (m_slices.size() == MostPages) {
         problem(Problem::Error, tr("text"), tr("it has more than %1 pages").arg(MostPages),

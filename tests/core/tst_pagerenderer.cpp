@@ -285,8 +285,11 @@ void TestPageRenderer::groundAndAlpha()
     style.size = QSize(8, 8);
     style.background = QColor(10, 20, 30, 40);
     QImage page = renderer.topPage(&document, style);
-    QCOMPARE(page.format(), QImage::Format_ARGB32);
+    QVERIFY(!page.hasAlphaChannel());
     QCOMPARE(page.pixel(4, 4), qRgba(10, 20, 30, 255));
+    const QImage finished = finishPage(page, page.size(), {}, {});
+    QCOMPARE(finished.format(), QImage::Format_ARGB32);
+    QCOMPARE(finished.pixel(4, 4), qRgba(10, 20, 30, 255));
     style.isTransparent = true;
     page = renderer.topPage(&document, style);
     QCOMPARE(page.format(), QImage::Format_ARGB32);
