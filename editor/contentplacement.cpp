@@ -84,6 +84,22 @@ void copyStrip(const QImage &image, const BlankRows &blank, int top, QImage *can
     }
 }
 
+/** The rows of \a image over the opaque canvas, a few at a time so that both stay in the cache. */
+void drawStrip(const QImage &image, const BlankRows &blank, int top, QImage *canvas)
+{
+    constexpr int bandHeight = 32;
+    const int end = top + image.height() - blank.top - blank.bottom;
+    QPainter painter(canvas);
+    for (int band = 0; band < canvas->height(); band += bandHeight) {
+        painter.fillRect(0, band, canvas->width(), bandHeight, canvasColor());
+        const int from = std::max(band, top);
+        const int height = std::min(band + bandHeight, end) - from;
+        if (height > 0) {
+            painter.drawImage(0, from, image, 0, from - top + blank.top, image.width(), height);
+        }
+    }
+}
+
 } // namespace
 
 QColor canvasColor()
@@ -117,12 +133,15 @@ QImage placeContent(QImage image, const QSize &itemSize, int contentAlign, bool 
     // Known to be opaque, and the same bytes either way: neither looked at nor copied.
     const bool isKnownOpaque =
         image.format() == QImage::Format_RGB32 && image.reinterpretAsFormat(QImage::Format_ARGB32);
-    QImage content = image.convertToFormat(QImage::Format_ARGB32);
+    // Premultiplied colours are drawn as they are; a transparent canvas needs straight ones.
+    const bool isReady = image.format() == QImage::Format_ARGB32_Premultiplied && !textTransparent;
+    QImage content = isReady ? image : image.convertToFormat(QImage::Format_ARGB32);
     if (content.isNull()) {
         return image;
     }
     if (content.size() == itemSize && qFuzzyCompare(content.devicePixelRatio(), 1.0) &&
         (isKnownOpaque || isOpaque(content))) {
+        content.reinterpretAsFormat(QImage::Format_ARGB32);
         return content;
     }
     QImage canvas(itemSize,
@@ -137,12 +156,7 @@ QImage placeContent(QImage image, const QSize &itemSize, int contentAlign, bool 
         copyStrip(content, blank, top, &canvas);
         return canvas;
     }
-    canvas.fill(canvasColor());
-    content.setDevicePixelRatio(1.0);
-    if (stripHeight > 0) {
-        QPainter painter(&canvas);
-        painter.drawImage(0, top, content, 0, blank.top, content.width(), stripHeight);
-    }
+    drawStrip(content, blank, top, &canvas);
     // Every pixel of the canvas is opaque, so straight and premultiplied mean the same.
     canvas.reinterpretAsFormat(QImage::Format_ARGB32);
     return canvas;

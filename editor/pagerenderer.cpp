@@ -19,12 +19,10 @@ QPalette pagePalette()
     return palette;
 }
 
-QImage groundFor(const PageStyle &style)
+/** The format says whether a page is opaque; what is not is drawn and placed without conversion. */
+QImage::Format formatFor(const PageStyle &style)
 {
-    // The format says that a page is opaque, so that nobody has to look at every pixel.
-    QImage image(style.size, style.isTransparent ? QImage::Format_ARGB32 : QImage::Format_RGB32);
-    image.fill(style.isTransparent ? QColor(Qt::transparent) : style.background);
-    return image;
+    return style.isTransparent ? QImage::Format_ARGB32_Premultiplied : QImage::Format_RGB32;
 }
 
 void drawContents(QTextDocument *document, QPainter *painter, const QRectF &shown)
@@ -35,6 +33,23 @@ void drawContents(QTextDocument *document, QPainter *painter, const QRectF &show
     painter->setRenderHint(QPainter::TextAntialiasing, true);
     painter->setClipRect(shown);
     document->documentLayout()->draw(painter, context);
+}
+
+/** Fills @p page, which has the style's size and format, and draws the slice on it. */
+void drawOn(QImage *page, QTextDocument *document, const PageStyle &style, const PageSlice &slice)
+{
+    page->fill(style.isTransparent ? QColor(Qt::transparent) : style.background);
+    QPainter painter(page);
+    painter.translate(0, slice.drawnAt - slice.top);
+    const qreal height = qMin(slice.bottom - slice.top, style.size.height() - slice.drawnAt);
+    drawContents(document, &painter, QRectF(0, slice.top, style.size.width(), height));
+}
+
+PageSlice topSlice(const PageStyle &style)
+{
+    PageSlice slice;
+    slice.bottom = style.size.height();
+    return slice;
 }
 
 } // namespace
@@ -48,9 +63,7 @@ bool isPageSize(const QSize &size)
 
 QImage drawTop(QTextDocument *document, const PageStyle &style)
 {
-    PageSlice slice;
-    slice.bottom = style.size.height();
-    return drawSlice(document, style, slice);
+    return drawSlice(document, style, topSlice(style));
 }
 
 QImage drawSlice(QTextDocument *document, const PageStyle &style, const PageSlice &slice)
@@ -58,12 +71,8 @@ QImage drawSlice(QTextDocument *document, const PageStyle &style, const PageSlic
     if (!isPageSize(style.size)) {
         return {};
     }
-    QImage image = groundFor(style);
-    QPainter painter(&image);
-    painter.translate(0, slice.drawnAt - slice.top);
-    const qreal height = qMin(slice.bottom - slice.top, style.size.height() - slice.drawnAt);
-    drawContents(document, &painter, QRectF(0, slice.top, style.size.width(), height));
-    painter.end();
+    QImage image(style.size, formatFor(style));
+    drawOn(&image, document, style, slice);
     return image;
 }
 
@@ -87,7 +96,16 @@ QImage PageRenderer::topPage(const QTextDocument *source, const PageStyle &style
     if (source == nullptr || !isPageSize(style.size)) {
         return {};
     }
-    return drawTop(m_top.documentFor(source, style.size), style);
+    QTextDocument *top = m_top.documentFor(source, style.size);
+    if (!style.isTransparent) {
+        m_page = QImage();
+        return drawTop(top, style); // becomes the finished page as it is
+    }
+    if (m_page.size() != style.size || !m_page.isDetached()) {
+        m_page = QImage(style.size, formatFor(style));
+    }
+    drawOn(&m_page, top, style, topSlice(style));
+    return m_page;
 }
 
 } // namespace lctrlsex

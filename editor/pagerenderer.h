@@ -47,7 +47,8 @@ struct PageEffects
 
 /**
  * Draws the top of @p document, which is laid out at the page's width already, on the ground of
- * @p style. Format_ARGB32, Format_RGB32 on an opaque ground; null when the size is no page size.
+ * @p style. Format_ARGB32_Premultiplied, Format_RGB32 on an opaque ground; null when the size is
+ * no page size.
  */
 [[nodiscard]] QImage drawTop(QTextDocument *document, const PageStyle &style);
 
@@ -78,6 +79,11 @@ public:
 
 private:
     TopBlocks m_top;
+    /**
+     * The last transparent page, drawn over when nobody else holds it: it is only read to make the
+     * finished page, and fresh memory of a screen's size costs more than drawing on it.
+     */
+    QImage m_page;
 };
 
 } // namespace lctrlsex

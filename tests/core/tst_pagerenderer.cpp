@@ -292,8 +292,10 @@ void TestPageRenderer::groundAndAlpha()
     QCOMPARE(finished.pixel(4, 4), qRgba(10, 20, 30, 255));
     style.isTransparent = true;
     page = renderer.topPage(&document, style);
-    QCOMPARE(page.format(), QImage::Format_ARGB32);
     QCOMPARE(page.pixel(4, 4), 0u);
+    const QImage placed = finishPage(page, page.size(), {}, {});
+    QCOMPARE(placed.format(), QImage::Format_ARGB32);
+    QCOMPARE(placed.pixel(4, 4), qRgb(1, 2, 1));
 }
 
 void TestPageRenderer::finishRunsHollowThenStroke()
