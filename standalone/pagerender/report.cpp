@@ -26,6 +26,16 @@ QString oneLine(QString text)
     return text;
 }
 
+/** A sentence as part of a line: without its capital and its full stop. */
+QString asClause(QString text)
+{
+    if (text.endsWith(QLatin1Char('.'))) {
+        text.chop(1);
+    }
+    const bool isWord = text.size() > 1 && text.at(0).isUpper() && text.at(1).isLower();
+    return isWord ? text.at(0).toLower() + text.mid(1) : text;
+}
+
 } // namespace
 
 Report::Report(const QString &file, bool asJson, bool isQuiet, FILE *messages)
@@ -53,9 +63,11 @@ void Report::problem(const player::Problem &problem)
     if (!problem.place.isEmpty()) {
         parts.append(problem.place);
     }
-    const QString kind = isError ? QString() : QStringLiteral("warning: ");
-    parts.append(kind + problem.reason +
-                 (problem.remedy.isEmpty() ? QString() : QStringLiteral("; ") + problem.remedy));
+    QString text = asClause(problem.reason);
+    if (!problem.remedy.isEmpty()) {
+        text += QStringLiteral("; ") + asClause(problem.remedy);
+    }
+    parts.append(isError ? text : QStringLiteral("warning: ") + text);
     print(m_messages, oneLine(parts.join(QStringLiteral(": "))) + QLatin1Char('\n'));
 }
 

@@ -6,6 +6,7 @@
 #include <QAbstractTextDocumentLayout>
 #include <QCoreApplication>
 #include <QGlyphRun>
+#include <QHash>
 #include <QTextBlock>
 #include <QTextLayout>
 
@@ -14,6 +15,7 @@ namespace player {
 namespace {
 
 constexpr int CharactersNamed = 8;
+constexpr int MostOfAKind = 5;
 constexpr int TextShown = 24;
 constexpr int LeastContrast = 12;
 
@@ -53,6 +55,13 @@ public:
             checkLines(block);
             checkRuns(block);
         }
+        for (const int found : qAsConst(m_found)) {
+            m_untold += qMax(0, found - MostOfAKind);
+        }
+        if (m_untold > 0) {
+            warn(tr("text"), tr("there are %1 more of these").arg(m_untold),
+                 tr("mend the ones above first"));
+        }
         return m_problems;
     }
 
@@ -63,6 +72,15 @@ private:
     {
         m_problems.append(
             {Problem::Warning, m_item->place() + QStringLiteral(": ") + part, reason, remedy});
+    }
+
+    /** A warning of which one document can have thousands; @p part is only made when told. */
+    template <typename Part>
+    void warnOfMany(const QString &reason, const QString &remedy, Part part)
+    {
+        if (++m_found[reason] <= MostOfAKind) {
+            warn(part(), reason, remedy);
+        }
     }
 
     void checkCharacters()
@@ -109,17 +127,18 @@ private:
             return;
         }
         if (ink.right() > m_item->size().width() + 1 || ink.left() < -1) {
-            warn(tr("text %1").arg(quoted(text)),
-                 tr("it is wider than the item and cut at the side"),
-                 tr("use a smaller font or a wider item, or break the line"));
+            warnOfMany(tr("it is wider than the item and cut at the side"),
+                       tr("use a smaller font or a wider item, or break the line"),
+                       [&text] { return tr("text %1").arg(quoted(text)); });
         }
         const auto &slices = m_item->slices();
         const bool isWhole = std::any_of(slices.begin(), slices.end(), [&ink](const auto &slice) {
             return slice.top <= ink.top() + 1 && slice.bottom >= ink.bottom() - 1;
         });
         if (!isWhole) {
-            warn(tr("text %1").arg(quoted(text)), tr("it is higher than the item and cut"),
-                 tr("use a smaller font or a higher item"));
+            warnOfMany(tr("it is higher than the item and cut"),
+                       tr("use a smaller font or a higher item"),
+                       [&text] { return tr("text %1").arg(quoted(text)); });
         }
     }
 
@@ -156,13 +175,16 @@ private:
         const bool hasGround = format.background().style() != Qt::NoBrush;
         const QColor ground = hasGround ? format.background().color() : m_item->groundColor();
         if (!text.trimmed().isEmpty() && ground.alpha() > 0 && isAlike(ink, ground)) {
-            warn(tr("text %1").arg(quoted(text)), tr("it has the colour of its ground"),
-                 tr("change the colour of the text or of the ground"));
+            warnOfMany(tr("it has the colour of its ground"),
+                       tr("change the colour of the text or of the ground"),
+                       [&text] { return tr("text %1").arg(quoted(text)); });
         }
     }
 
     ItemRenderer *m_item;
     Problems m_problems;
+    QHash<QString, int> m_found; ///< How many of each reason there are.
+    int m_untold = 0;
 };
 
 } // namespace

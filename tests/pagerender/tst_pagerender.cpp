@@ -365,6 +365,9 @@ void TestPagerender::check_data()
                               << "wider";
     QTest::newRow("black on black") << "<p style=\"font-family:'DejaVu Sans'\">Dark</p>"
                                     << "colour of its ground";
+    QTest::newRow("many of a kind")
+        << dejavu(QString("<span style=\"font-size:70px\">X</span><br/>").repeated(50))
+        << "45 more";
     QTest::newRow("large image")
         << dejavu("<img width=\"900\" height=\"20\" "
                   "src=\"data:image/gif;base64,R0lGODlhAQABAIAAAP///wAAACwAAAAAAQABAAACAkQBADs=\">")
