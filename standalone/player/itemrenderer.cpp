@@ -23,8 +23,7 @@ QString tr(const char *text)
 } // namespace
 
 ItemRenderer::ItemRenderer(LTextEffectNode *node, const QString &place, const QSize &size)
-    : m_node(node)
-    , m_place(place)
+    : m_place(place)
     , m_style(pageStyleOf(node))
     , m_finish(pageFinishOf(node))
 {
@@ -41,7 +40,7 @@ ItemRenderer::ItemRenderer(LTextEffectNode *node, const QString &place, const QS
                     .arg(MostPagePixels / 1000000));
         return;
     }
-    if (!load()) {
+    if (node == nullptr || !load(*node)) {
         return;
     }
     // A height of 0 and not setTextWidth(): with that one Qt lays out for ever what ends just below
@@ -55,7 +54,7 @@ ItemRenderer::ItemRenderer(LTextEffectNode *node, const QString &place, const QS
     for (const ItemDocument::DeniedResource &denied : m_document.deniedResources()) {
         problem(Problem::Error, tr("image %1").arg(denied.name), denied.reason, QString());
     }
-    for (const QString &family : missingFamilies(m_document, m_node->GetFontFamily())) {
+    for (const QString &family : missingFamilies(m_document, node->GetFontFamily())) {
         problem(Problem::Error, tr("font %1").arg(family),
                 tr("it is not installed, another font would be shown"),
                 tr("install the font or choose another one"));
@@ -64,12 +63,12 @@ ItemRenderer::ItemRenderer(LTextEffectNode *node, const QString &place, const QS
 
 ItemRenderer::~ItemRenderer() = default;
 
-bool ItemRenderer::load()
+bool ItemRenderer::load(const LTextEffectNode &node)
 {
     // The raw text is what the author edited; an item that was never edited here may have the
     // display text alone.
-    QString html = m_node->GetHtmlText();
-    const QString stored = m_node->GetRawHtmlText();
+    QString html = node.GetHtmlText();
+    const QString stored = node.GetRawHtmlText();
     if (!stored.isEmpty()) {
         const DecodedDocument decoded = decodeDocument(stored);
         if (!decoded.error.isEmpty()) {
@@ -86,7 +85,7 @@ bool ItemRenderer::load()
                 guarded.reason, guarded.remedy);
         return false;
     }
-    m_document.loadItem(guarded.html, textSettingsOf(m_node));
+    m_document.loadItem(guarded.html, textSettingsOf(&node));
     return true;
 }
 

@@ -19,8 +19,8 @@ class ItemRenderer
 {
 public:
     /**
-     * Reads the document of @p node, which must live as long as this object. @p size stands in
-     * for the item's own size when it is valid; @p place names the item in problems.
+     * Reads the document of @p node; a null one has no pages. @p size stands in for the item's own
+     * size when it is valid; @p place names the item in problems.
      */
     ItemRenderer(LTextEffectNode *node, const QString &place, const QSize &size = QSize());
     ~ItemRenderer();
@@ -47,11 +47,10 @@ public:
     [[nodiscard]] QColor groundColor() const;
 
 private:
-    bool load();
+    bool load(const LTextEffectNode &node);
     void problem(Problem::Severity severity, const QString &part, const QString &reason,
                  const QString &remedy);
 
-    LTextEffectNode *m_node;
     QString m_place;
     lctrlsex::ItemDocument m_document;
     lctrlsex::PageStyle m_style;
