@@ -6,6 +6,12 @@
 
 namespace lctrlsex {
 
+namespace {
+
+constexpr int LongestImageSide = 16384;
+
+} // namespace
+
 QImage ItemImageHandler::imageOf(const QTextDocument *document, const QTextImageFormat &format)
 {
     const QVariant value = document->resource(QTextDocument::ImageResource, QUrl(format.name()));
@@ -16,7 +22,14 @@ QSizeF ItemImageHandler::intrinsicSize(QTextDocument *document, int position,
                                        const QTextFormat &format)
 {
     Q_UNUSED(position)
-    const QTextImageFormat image = format.toImageFormat();
+    // A thin image with a width alone would be higher than Qt can lay out.
+    const QSizeF size = wantedSize(document, format.toImageFormat());
+    return {qBound(0.0, size.width(), qreal(LongestImageSide)),
+            qBound(0.0, size.height(), qreal(LongestImageSide))};
+}
+
+QSizeF ItemImageHandler::wantedSize(const QTextDocument *document, const QTextImageFormat &image)
+{
     const bool hasWidth = image.hasProperty(QTextFormat::ImageWidth);
     const bool hasHeight = image.hasProperty(QTextFormat::ImageHeight);
     if (hasWidth && hasHeight) {

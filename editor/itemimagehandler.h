@@ -14,7 +14,8 @@ namespace lctrlsex {
  *
  * Qt's own handler scales images by the resolution of the document's paint device, which is 72 dots
  * per inch here, and opens files that the document names when it gets no image. This one asks the
- * document and nobody else. A width or height in the document wins; one alone keeps the ratio.
+ * document and nobody else. A width or height in the document wins; one alone keeps the ratio; no
+ * side is longer than 16384 pixels.
  */
 class ItemImageHandler : public QObject, public QTextObjectInterface
 {
@@ -30,6 +31,7 @@ public:
                     const QTextFormat &format) override;
 
 private:
+    static QSizeF wantedSize(const QTextDocument *document, const QTextImageFormat &image);
     static QImage imageOf(const QTextDocument *document, const QTextImageFormat &format);
 };
 

@@ -160,11 +160,16 @@ private:
             document().documentLayout()->handlerForObject(QTextFormat::ImageObject);
         const QSizeF size = handler->intrinsicSize(&document(), position, format);
         if (size.width() > m_item->size().width() || size.height() > m_item->size().height()) {
-            warn(tr("image %1").arg(format.name().left(TextShown)),
-                 tr("%1 x %2 pixels is larger than the item").arg(size.width()).arg(size.height()),
-                 tr("make the image smaller than %1 x %2 pixels")
-                     .arg(m_item->size().width())
-                     .arg(m_item->size().height()));
+            // One reason for all images, so that they count together.
+            const QString actual = tr("%1 x %2 pixels").arg(size.width()).arg(size.height());
+            warnOfMany(tr("it is larger than the item"),
+                       tr("make the image smaller than %1 x %2 pixels")
+                           .arg(m_item->size().width())
+                           .arg(m_item->size().height()),
+                       [&] {
+                           const QString name = format.name().left(TextShown);
+                           return tr("image %1, %2").arg(name, actual);
+                       });
         }
     }
 

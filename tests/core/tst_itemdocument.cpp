@@ -1,5 +1,6 @@
 #include "itemdocument.h"
 
+#include <QAbstractTextDocumentLayout>
 #include <QBuffer>
 #include <QFile>
 #include <QTemporaryDir>
@@ -38,6 +39,8 @@ private slots:
     void resources();
     void deniedIsToldOncePerLoad();
     void fieldImageSurvivesLayout();
+    void imageSizes_data();
+    void imageSizes();
     void spacing_data();
     void spacing();
     void spacingReachesAllText();
@@ -117,6 +120,42 @@ void TestItemDocument::fieldImageSurvivesLayout()
     document.setTextWidth(100);
     QVERIFY(document.size().height() > 40);
     QVERIFY(document.deniedResources().isEmpty());
+}
+
+void TestItemDocument::imageSizes_data()
+{
+    QTest::addColumn<QSize>("image");
+    QTest::addColumn<QString>("attributes");
+    QTest::addColumn<QSizeF>("shown");
+    QTest::newRow("its own pixels") << QSize(50, 20) << QString() << QSizeF(50, 20);
+    QTest::newRow("as the document says")
+        << QSize(50, 20) << "width=\"30\" height=\"40\"" << QSizeF(30, 40);
+    QTest::newRow("width keeps the ratio") << QSize(50, 20) << "width=\"100\"" << QSizeF(100, 40);
+    QTest::newRow("height keeps the ratio") << QSize(50, 20) << "height=\"10\"" << QSizeF(25, 10);
+    QTest::newRow("thin images stay within bounds")
+        << QSize(1, 900) << "width=\"9000\"" << QSizeF(9000, 16384);
+    QTest::newRow("no image") << QSize() << "width=\"30\"" << QSizeF(30, 0);
+}
+
+void TestItemDocument::imageSizes()
+{
+    QFETCH(QSize, image);
+    QFETCH(QString, attributes);
+    const QByteArray bytes = image.isValid() ? png(image.width(), image.height()) : QByteArray("x");
+    ItemDocument document;
+    document.loadItem(
+        QStringLiteral("<p><img src=\"%1\" %2/></p>")
+            .arg(image.isValid() ? dataUrl(bytes, "image/png") : QString(), attributes),
+        {});
+    auto *handler = document.documentLayout()->handlerForObject(QTextFormat::ImageObject);
+    const QTextFormat format = document.firstBlock().begin().fragment().charFormat();
+    const QSizeF size = handler->intrinsicSize(&document, 0, format);
+    QFETCH(QSizeF, shown);
+    if (image.isValid()) {
+        QCOMPARE(size, shown);
+    } else {
+        QCOMPARE(size.width(), shown.width());
+    }
 }
 
 void TestItemDocument::spacing_data()
