@@ -93,10 +93,10 @@ void HtmlWorkload::endBlock()
     const double pieces = m_block.characters + m_block.images;
     const double lines = width < 2 * font ? pieces : std::min(pieces, 2 * m_block.advance / width);
     const double count = std::ceil(lines) + 1 + m_block.forcedLines;
+    const double factor = std::max(m_block.lineFactor, m_sheet.lineFactor);
     const double lineHeight =
-        std::max({linePerFont * font * std::max(m_block.lineFactor, m_sheet.lineFactor),
-                  m_block.lineHeight, m_sheet.lineHeight});
-    m_heights.back() += count * lineHeight + m_block.imageHeight;
+        std::max({linePerFont * font * factor, m_block.lineHeight, m_sheet.lineHeight});
+    m_heights.back() += count * lineHeight + m_block.imageHeight * std::max(1.0, factor);
     m_work += count * lineTime * ordinaryPasses();
     m_tangle += count * (lineTime * (passes() - ordinaryPasses()) + m_floats * floatPerLineTime);
     if (m_block.characters > longestParagraph || m_block.advance > greatestWidth) {
