@@ -84,19 +84,42 @@ void copyStrip(const QImage &image, const BlankRows &blank, int top, QImage *can
     }
 }
 
-/** The rows of \a image over the opaque canvas, a few at a time so that both stay in the cache. */
-void drawStrip(const QImage &image, const BlankRows &blank, int top, QImage *canvas)
+/**
+ * Moves the strip of \a content, premultiplied and of the item's size, to row \a top and lays the
+ * opaque canvas under it. In place and a few rows at a time: fresh memory for a second image of a
+ * screen's size costs more than all the work on it.
+ */
+void moveStrip(QImage *content, const BlankRows &blank, int top)
 {
     constexpr int bandHeight = 32;
-    const int end = top + image.height() - blank.top - blank.bottom;
-    QPainter painter(canvas);
-    for (int band = 0; band < canvas->height(); band += bandHeight) {
-        painter.fillRect(0, band, canvas->width(), bandHeight, canvasColor());
-        const int from = std::max(band, top);
-        const int height = std::min(band + bandHeight, end) - from;
-        if (height > 0) {
-            painter.drawImage(0, from, image, 0, from - top + blank.top, image.width(), height);
-        }
+    const int width = content->width();
+    const int stripHeight = content->height() - blank.top - blank.bottom;
+    const qsizetype line = content->bytesPerLine();
+    const uchar *const rows = content->bits();
+    QImage band(width, bandHeight, content->format());
+    QPainter painter(content);
+    for (int done = 0; done < stripHeight; done += bandHeight) {
+        const int count = std::min(bandHeight, stripHeight - done);
+        // What moves down moves from its end, so that no row is lost before it has moved.
+        const int first = top > blank.top ? stripHeight - done - count : done;
+        std::memcpy(band.bits(), rows + (blank.top + first) * line, size_t(count) * size_t(line));
+        painter.fillRect(0, top + first, width, count, canvasColor());
+        painter.drawImage(0, top + first, band, 0, 0, width, count);
+    }
+    painter.fillRect(0, 0, width, top, canvasColor());
+    painter.fillRect(0, top + stripHeight, width, content->height(), canvasColor());
+    painter.end();
+    content->reinterpretAsFormat(QImage::Format_ARGB32);
+}
+
+/** The strip of \a image, of another size than \a canvas, over the opaque canvas. */
+void drawStrip(const QImage &image, const BlankRows &blank, int top, QImage *canvas)
+{
+    canvas->fill(canvasColor());
+    const int stripHeight = image.height() - blank.top - blank.bottom;
+    if (stripHeight > 0) {
+        QPainter painter(canvas);
+        painter.drawImage(0, top, image, 0, blank.top, image.width(), stripHeight);
     }
 }
 
@@ -144,14 +167,20 @@ QImage placeContent(QImage image, const QSize &itemSize, int contentAlign, bool 
         content.reinterpretAsFormat(QImage::Format_ARGB32);
         return content;
     }
+    content.setDevicePixelRatio(1.0);
+    const BlankRows blank = blankRows(content);
+    const int stripHeight = content.height() - blank.top - blank.bottom;
+    const int top = stripTop(itemSize.height(), stripHeight, contentAlign);
+    if (isReady && content.size() == itemSize) {
+        image = QImage(); // with two owners the pixels would be copied first
+        moveStrip(&content, blank, top);
+        return content;
+    }
     QImage canvas(itemSize,
                   textTransparent ? QImage::Format_ARGB32 : QImage::Format_ARGB32_Premultiplied);
     if (canvas.isNull()) {
         return image;
     }
-    const BlankRows blank = blankRows(content);
-    const int stripHeight = content.height() - blank.top - blank.bottom;
-    const int top = stripTop(itemSize.height(), stripHeight, contentAlign);
     if (textTransparent) {
         copyStrip(content, blank, top, &canvas);
         return canvas;

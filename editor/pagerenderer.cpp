@@ -96,16 +96,7 @@ QImage PageRenderer::topPage(const QTextDocument *source, const PageStyle &style
     if (source == nullptr || !isPageSize(style.size)) {
         return {};
     }
-    QTextDocument *top = m_top.documentFor(source, style.size);
-    if (!style.isTransparent) {
-        m_page = QImage();
-        return drawTop(top, style); // becomes the finished page as it is
-    }
-    if (m_page.size() != style.size || !m_page.isDetached()) {
-        m_page = QImage(style.size, formatFor(style));
-    }
-    drawOn(&m_page, top, style, topSlice(style));
-    return m_page;
+    return drawTop(m_top.documentFor(source, style.size), style);
 }
 
 } // namespace lctrlsex

@@ -79,11 +79,6 @@ public:
 
 private:
     TopBlocks m_top;
-    /**
-     * The last transparent page, drawn over when nobody else holds it: it is only read to make the
-     * finished page, and fresh memory of a screen's size costs more than drawing on it.
-     */
-    QImage m_page;
 };
 
 } // namespace lctrlsex

@@ -59,6 +59,7 @@ private slots:
     void filledPageIsShared();
     void returnedUnchanged();
     void otherFormats();
+    void inPlaceEqualsDrawn();
 };
 
 void TestContentPlacement::countsBlankRows_data()
@@ -261,6 +262,25 @@ void TestContentPlacement::otherFormats()
 
     const QImage multiplied = image.convertToFormat(QImage::Format_ARGB32_Premultiplied);
     QCOMPARE(placeContent(multiplied, QSize(21, 12), 0x40, false).pixel(0, 7), image.pixel(0, 3));
+}
+
+/** Pages of the item's size are placed in place; that must show in nothing but the time. */
+void TestContentPlacement::inPlaceEqualsDrawn()
+{
+    for (int height = 1; height <= 90; height += 11) {
+        for (int from = 0; from <= 90 - height; from += 7) {
+            const QImage straight = page(QSize(37, 90), from, height);
+            const QImage multiplied = straight.convertToFormat(QImage::Format_ARGB32_Premultiplied);
+            const QImage kept = multiplied.copy();
+            for (const int align : {0x20, 0x40, 0x80}) {
+                const QImage drawn = placeContent(straight, straight.size(), align, false);
+                const QImage moved = placeContent(multiplied, straight.size(), align, false);
+                QCOMPARE(moved.format(), QImage::Format_ARGB32);
+                QCOMPARE(moved, drawn);
+                QCOMPARE(multiplied, kept);
+            }
+        }
+    }
 }
 
 QTEST_APPLESS_MAIN(TestContentPlacement)
