@@ -1,4 +1,4 @@
-// What the guard accepts, Qt loads and lays out within the height that the guard expected.
+// What the guard accepts, Qt loads, lays out as a page and draws, and comes to an end.
 
 #include "htmlguard.h"
 
