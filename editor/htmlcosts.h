@@ -17,8 +17,8 @@ inline constexpr double mostCells = 200000;
 inline constexpr int mostFloats = 256;
 inline constexpr double longestParagraph = 500000;
 // Qt lays out for ever below pixel 8 388 607, and its widths overflow beyond. A picture in the
-// midst of odd markup can be twice as high as it was taken for.
-inline constexpr double greatestHeight = 4000000;
+// midst of odd markup can be 2.5 times as high as it was taken for.
+inline constexpr double greatestHeight = 3000000;
 inline constexpr double greatestWidth = 4000000;
 inline constexpr double mostMemory = 220e6;
 inline constexpr double mostWork = 1e9;

@@ -48,7 +48,7 @@ const Explanation explanations[] = {
     {HtmlExcess::Floats,
      QT_TRANSLATE_NOOP("HtmlGuard", "There are more than 256 floating images and tables."),
      QT_TRANSLATE_NOOP("HtmlGuard", "Put images and tables into the flow of the text.")},
-    {HtmlExcess::Height, QT_TRANSLATE_NOOP("HtmlGuard", "The text is taller than 4000000 pixels."),
+    {HtmlExcess::Height, QT_TRANSLATE_NOOP("HtmlGuard", "The text is taller than 3000000 pixels."),
      QT_TRANSLATE_NOOP("HtmlGuard", "Shorten the text or use smaller letters and margins.")},
     {HtmlExcess::Width, QT_TRANSLATE_NOOP("HtmlGuard", "A table is wider than 4000000 pixels."),
      QT_TRANSLATE_NOOP("HtmlGuard", "Remove columns or make them narrower.")},

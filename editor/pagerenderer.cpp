@@ -35,23 +35,6 @@ void drawContents(QTextDocument *document, QPainter *painter, const QRectF &show
     document->documentLayout()->draw(painter, context);
 }
 
-/** Fills @p page, which has the style's size and format, and draws the slice on it. */
-void drawOn(QImage *page, QTextDocument *document, const PageStyle &style, const PageSlice &slice)
-{
-    page->fill(style.isTransparent ? QColor(Qt::transparent) : style.background);
-    QPainter painter(page);
-    painter.translate(0, slice.drawnAt - slice.top);
-    const qreal height = qMin(slice.bottom - slice.top, style.size.height() - slice.drawnAt);
-    drawContents(document, &painter, QRectF(0, slice.top, style.size.width(), height));
-}
-
-PageSlice topSlice(const PageStyle &style)
-{
-    PageSlice slice;
-    slice.bottom = style.size.height();
-    return slice;
-}
-
 } // namespace
 
 bool isPageSize(const QSize &size)
@@ -63,7 +46,9 @@ bool isPageSize(const QSize &size)
 
 QImage drawTop(QTextDocument *document, const PageStyle &style)
 {
-    return drawSlice(document, style, topSlice(style));
+    PageSlice slice;
+    slice.bottom = style.size.height();
+    return drawSlice(document, style, slice);
 }
 
 QImage drawSlice(QTextDocument *document, const PageStyle &style, const PageSlice &slice)
@@ -72,7 +57,15 @@ QImage drawSlice(QTextDocument *document, const PageStyle &style, const PageSlic
         return {};
     }
     QImage image(style.size, formatFor(style));
-    drawOn(&image, document, style, slice);
+    if (image.isNull()) {
+        return {}; // there is no memory for it
+    }
+    image.fill(style.isTransparent ? QColor(Qt::transparent) : style.background);
+    QPainter painter(&image);
+    painter.translate(0, slice.drawnAt - slice.top);
+    const qreal height = qMin(slice.bottom - slice.top, style.size.height() - slice.drawnAt);
+    drawContents(document, &painter, QRectF(0, slice.top, style.size.width(), height));
+    painter.end();
     return image;
 }
 

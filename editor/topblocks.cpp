@@ -2,6 +2,7 @@
 
 #include "documentsetup.h"
 
+#include <QImage>
 #include <QTextBlock>
 #include <QTextCursor>
 #include <QTextDocumentFragment>
@@ -27,8 +28,13 @@ protected:
     QVariant loadResource(int type, const QUrl &name) override
     {
         QVariant value = lender != nullptr ? lender->resource(type, name) : QVariant();
+        if (value.isValid()) {
+            return value;
+        }
         // An invalid value would make Qt open the path itself.
-        return value.isValid() ? value : QVariant(QImage(1, 1, QImage::Format_ARGB32));
+        QImage nothing(1, 1, QImage::Format_ARGB32);
+        nothing.fill(Qt::transparent);
+        return type == ImageResource ? QVariant(nothing) : QVariant(QByteArray());
     }
 };
 

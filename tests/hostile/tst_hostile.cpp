@@ -28,8 +28,8 @@ constexpr bool sanitized = false;
 
 namespace {
 
-// Twice what the guard promises and more, because machines differ; a hang is many times more.
-constexpr double mostSeconds = sanitized ? 10 : 2;
+// Under the sanitizers only hangs are looked for.
+constexpr double mostSeconds = sanitized ? 10 : 1;
 constexpr double freeSeconds = sanitized ? 1 : 0.2;
 constexpr double mostTimesHarmless = sanitized ? 8 : 4;
 constexpr double mostMegabytes = sanitized ? 900 : 300;
