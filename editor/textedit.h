@@ -1,0 +1,219 @@
+#pragma once
+
+#include "lctrlsexexport.h"
+#include "ltableproperties.h"
+
+#include <QImage>
+#include <QMap>
+#include <QPointer>
+#include <QTextCharFormat>
+#include <QTimer>
+#include <QWidget>
+
+#include <memory>
+
+class LTextEffectNode;
+class QAction;
+class QFrame;
+class QLabel;
+class QToolBar;
+class LRichViewEdit;
+
+namespace lctrlsex {
+class BindingMenus;
+class EditToolBar;
+class FormatCommands;
+class NodePublisher;
+class TableCommands;
+} // namespace lctrlsex
+
+/**
+ * The editor of a text item: its tool bar, the view of its document, and the bridge between the
+ * view and the node that it is attached to.
+ *
+ * Everything is forwarded to small collaborators; this class keeps the names that hosts and the
+ * view connect to, emits, and owns the order of things. The node belongs to the host, may go at
+ * any time, and is checked before every use; without one, commands still change the view and
+ * nothing is stored. GUI thread only.
+ */
+class LCTRLSEX_EXPORT TextEdit : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit TextEdit(QWidget *parent = nullptr);
+    ~TextEdit() override;
+
+    /** Attaches @p node and loads its document; null lets go of the one before. */
+    void Init(LTextEffectNode *node);
+
+    /** The current page as the screen shows it; null when the node is gone or has no size. */
+    [[nodiscard]] QImage getCurrentImage();
+    /**
+     * Page @p page, from 1, as the screen shows it: from the node's page files, else the top of
+     * the document. Null when the node is gone or has no size.
+     */
+    [[nodiscard]] QImage getIndexImage(int page);
+
+    /**
+     * Sets the single-line flag to whether @p mode is 1, when @p apply is set; in any case shows
+     * the tool bar's twelve formatting actions. The name is spelt so on purpose.
+     */
+    void UpdateBottonMode(int mode, bool apply);
+
+    /** Kept on purpose because hosts ask it: always false. */
+    [[nodiscard]] static bool Contain(int value);
+    /** Kept on purpose because hosts ask it: always true. */
+    [[nodiscard]] static bool NotContain(int value);
+
+    /** Whether the document holds a table. */
+    [[nodiscard]] bool hasTable() const;
+
+    // What the client learns of data; each rebuilds the menu that shows it
+
+    /** Values of fields by qualified name: redraws the field images. */
+    void UpdateField(QMap<QString, QString> &values);
+    /** Calculated values by name. */
+    void UpdateExpression(QMap<QString, QString> &values);
+    /** Conditional styles, identifier to name. */
+    void UpdateConditionStyles(QMap<QString, QString> &styles);
+    /** Fills the menu of conditional styles from what the node stores. */
+    void LoadConditionStyles();
+    /** Rebuilds the menus of sources, fields and expressions and redraws the field images. */
+    void RefreshDataSource();
+    /** Does what follows when the bound field of the table changed. */
+    void ProcessPaddingHtmlTable();
+
+signals:
+    /** Sent when it may have changed whether the document holds a table. */
+    void DocumentHasTable(bool value);
+    /** The table was bound to another field. */
+    void TableBindFieldChanged();
+
+public slots:
+    /** Shows page @p curPage of @p numPage, both clamped, and tells the node. */
+    void PageChanged(uint curPage, uint numPage);
+    void OnSourceChanged();
+    void OnFieldChanged();
+    /** Stores what the table record says of type, header and pages on the node. */
+    void OnTableInfoChange(LUM_EditInterface::LTableProperties prop);
+    /** Sets every text anew in the current language. */
+    void Translate();
+
+    // Text and tables
+
+    /** Inserts @p text in the tool bar's format, always white; on one line in single-line mode. */
+    void InsertCopyText(QString text);
+    void InsertTable();
+    /** Gives the current table the look of @p properties; null is ignored. */
+    void ModfTablePropertiesed(LUM_EditInterface::LTableProperties *properties);
+    void TableSplitCell(bool vert);
+
+    // One value applied to the document, from the tool bar or from outside
+
+    /** Merges @p format into the selection, or the word under the cursor, and the typing format. */
+    void mergeFormatOnWordOrSelection(QTextCharFormat format);
+    void TextFontNameChanged(const QString &family);
+    /** @p size in points. */
+    void TextFontSizeChanged(uint size);
+    /** @p color as 0xAARRGGBB; the alpha is ignored. The same for the next two. */
+    void TextColorChanged(uint color);
+    void TextBackgroundColorChanged(uint color);
+    void EditBackgroundColorChanged(uint color);
+    /** @p align as Qt::Alignment. */
+    void TextHAlignmentChanged(uint align);
+    void TextVAlignmentChanged(uint align);
+    void TextBoldFlagChanged(bool flag);
+    void TextItalicFlagChanged(bool flag);
+    void TextUnderlineFlagChanged(bool flag);
+    /** Letter spacing of the whole document; nothing in single-line mode. */
+    void TextWordSpacingChanged(int value);
+    /** Line height of the cursor's paragraphs in percent, at least 100; nothing in single-line mode. */
+    void TextLineSpacingChanged(int value);
+
+    /** Pushes the document to the node when it changed since the last push. */
+    void TextDrawImage();
+    /** Takes the keyboard focus from the view. */
+    void EditFocusOut();
+    /** Gives the view the keyboard focus. */
+    void EditFocusIn();
+
+    // Commands of the table menu
+
+    void TableMenuShow();
+    void TablePropModfy();
+    void TableOperate();
+
+    // Commands of the tool bar
+
+    void SetEditFocus();
+    void textFamily(const QString &family);
+    void textSize(const QString &size);
+    void textColor();
+    void textBold();
+    void textUnderline();
+    void textItalic();
+    void TextBgcolor();
+    void ClearTextBgcolor();
+    void EditorBgColor();
+    void TransBgColor();
+    void textAlign(QAction *action);
+    void textVAlign(QAction *action);
+    /** Follows a change of the document: repairs the typing format, pushes, merges later. */
+    void TextChanged();
+    /** Brings the tool bar in line with the format at the cursor. */
+    void CursorPositionFontStatusMarked();
+    /** Stretches the item's table to the page, or stops it. */
+    void ON_VerticalStretch();
+    void UseHollow();
+    void StrokeColor();
+    void ClearStrokeColor();
+    void WordSpacingChanged(int value);
+    void LineSpacingChanged(int value);
+
+    // Fields and conditional styles
+
+    void ONDataSourceNameChanged(QAction *action);
+    void ONFieldNameChanged(QAction *action);
+    void ONConditionStyleChanged(QAction *action);
+    void ONInsertFieldNameChanged(QString field);
+    /** Inserts a bound field in the tool bar's format. */
+    void ApplyFormatAndInsert(const QString &field);
+    void CopyAction();
+    /** Pastes the clipboard's text as InsertCopyText() does. */
+    void PasteAction();
+    /** Redraws every field image. */
+    void UpdateBindKeys();
+    /** Merges neighbouring runs that look alike. */
+    void performSmartMerge();
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+    void showEvent(QShowEvent *event) override;
+
+private:
+    void setupEditActions(QToolBar *toolBar);
+    void setupTextActions();
+    void CreateConnect();
+    void InitTextEditor();
+    void InitFontSettings();
+    void InitAlignmentSettings();
+    void InitUISettings();
+    void alignmentChanged(Qt::Alignment align);
+    void SetStrokeColorButtonImage(const QColor &color);
+    void showNotice(const QString &text);
+
+    Q_DISABLE_COPY(TextEdit)
+
+    QPointer<LTextEffectNode> m_node;
+    LRichViewEdit *m_view = nullptr;
+    std::unique_ptr<lctrlsex::EditToolBar> m_toolBar;
+    std::unique_ptr<lctrlsex::FormatCommands> m_format;
+    std::unique_ptr<lctrlsex::NodePublisher> m_publisher;
+    std::unique_ptr<lctrlsex::TableCommands> m_table;
+    std::unique_ptr<lctrlsex::BindingMenus> m_binding;
+    bool m_singleLine = false;
+    bool m_initialising = false;
+    bool m_firstShow = true;
+    QTimer m_mergeTimer;
+};
