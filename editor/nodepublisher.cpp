@@ -17,10 +17,11 @@ namespace lctrlsex {
 
 namespace {
 
-QString tr(const char *text)
+/** Texts of this file, under one name for translators. */
+struct NodePublisherTexts
 {
-    return QCoreApplication::translate("lctrlsex::NodePublisher", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(NodePublisher)
+};
 
 /** A document that can be loaded, or why there is none. */
 struct Readable
@@ -33,11 +34,14 @@ Readable readStored(const QString &stored)
 {
     const DecodedDocument decoded = decodeDocument(stored);
     if (!decoded.error.isEmpty()) {
-        return {QString(), tr("The stored document cannot be read: %1.").arg(decoded.error)};
+        return {
+            QString(),
+            NodePublisherTexts::tr("The stored document cannot be read: %1.").arg(decoded.error)};
     }
     const GuardedHtml guarded = guardHtml(decoded.html);
     if (!guarded.accepted) {
-        return {QString(), tr("The stored document cannot be shown (line %1, column %2): %3. %4.")
+        return {QString(), NodePublisherTexts::tr(
+                               "The stored document cannot be shown (line %1, column %2): %3. %4.")
                                .arg(guarded.line)
                                .arg(guarded.column)
                                .arg(guarded.reason, guarded.remedy)};
