@@ -115,8 +115,8 @@ void TestEditorNode::slotsAndSignalsArePromised_data()
 void TestEditorNode::slotsAndSignalsArePromised()
 {
     QFETCH(QByteArray, signature);
-    EditorFixture item;
-    const QMetaObject *meta = item.editor->metaObject();
+    const auto *editor = loadedClient()->GetClient()->findChild<QWidget *>("wgtTextEditor");
+    const QMetaObject *meta = editor->metaObject();
     QCOMPARE(meta->className(), "TextEdit");
     const int index = meta->indexOfMethod(signature);
     QVERIFY(index >= 0);
