@@ -1,6 +1,7 @@
 #include "toolbarformat.h"
 
 #include <QFont>
+#include <QFontInfo>
 #include <QTextBlockFormat>
 #include <QTextCursor>
 #include <QTextDocument>
