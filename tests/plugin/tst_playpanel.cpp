@@ -357,6 +357,8 @@ void TestPlayPanel::frameIsCopied()
     QFETCH(QString, path);
     m_text->SetShapedBorderEnable(true);
     m_text->SetBorderEnable(!enable);
+    // Read into the panel behind the border, where it does not fit, and not written back.
+    m_text->SetDispTime(800);
     QStringList order;
     connect(m_text, &LData::AttributeChanged, this, [&order](const QString &key) { order << key; });
     connect(m_text, &LEffectNode::Attribute3DChanged, this, [&order] { order << "3D"; });
