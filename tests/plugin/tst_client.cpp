@@ -9,11 +9,12 @@
 #include <QtTest>
 #include <QtWidgets>
 
-using pluginhost::child;
-using pluginhost::client;
-using pluginhost::listeners;
-
 namespace {
+
+Lum::INodeClient *client()
+{
+    return loadedClient();
+}
 
 const char *const playSignal = "PlayIndexChanged(int,int)";
 const char *const frameSignal = "FrameChanged()";
@@ -88,12 +89,12 @@ constexpr struct
 
 QString pageTip()
 {
-    return child<QLabel>("PageTip")->text();
+    return clientChild<QLabel>("PageTip")->text();
 }
 
 bool panelEnabled()
 {
-    return child<QWidget>("TextAttributesContentBg")->isEnabled();
+    return clientChild<QWidget>("TextAttributesContentBg")->isEnabled();
 }
 
 QStringList preOrder(const QObject *root)
@@ -161,10 +162,10 @@ void TestClient::noDeadConnection()
 {
     delete client();
     Programme programme;
-    const pluginhost::MessageCatcher catcher;
+    const DeadConnections dead;
     client()->Init(programme.frame);
     client()->GetEditeWidget(programme.text);
-    QCOMPARE(catcher.deadConnections(), QStringList());
+    QCOMPARE(DeadConnections::found(), QStringList());
 }
 
 void TestClient::widgets_data()
@@ -182,7 +183,7 @@ void TestClient::widgets()
     QFETCH(QString, inherited);
     QFETCH(QString, parent);
     QFETCH(QString, styleSheet);
-    auto *const widget = child<QWidget>(QTest::currentDataTag());
+    auto *const widget = clientChild<QWidget>(QTest::currentDataTag());
     QVERIFY(widget);
     QVERIFY(widget->inherits(qPrintable(inherited)));
     QCOMPARE(widget->parentWidget()->objectName(), parent);
@@ -195,10 +196,10 @@ void TestClient::widgets()
 void TestClient::widgetsInOrder()
 {
     QCOMPARE(client()->objectName(), QString("LTextClient"));
-    auto *const layout = child<QHBoxLayout>("MainLayout");
+    auto *const layout = clientChild<QHBoxLayout>("MainLayout");
     QCOMPARE(static_cast<QLayout *>(layout), client()->layout());
     QCOMPARE(layout->spacing(), 0);
-    const QFont font = child<QWidget>("wgtTextEditor")->font();
+    const QFont font = clientChild<QWidget>("wgtTextEditor")->font();
     QCOMPARE(font.family(), QString::fromUtf8("华文宋体"));
     QCOMPARE(font.pointSize(), 16);
 
@@ -218,9 +219,11 @@ void TestClient::startsHidden()
     delete client();
     for (const char *name : {"BtnBg", "widget", "TextAttributesBg", "GUID", "ConditionalStylesBtn",
                              "setOperation", "FieldCbx", "FieldLab"}) {
-        QVERIFY2(child<QWidget>(name)->isHidden(), name);
+        QVERIFY2(clientChild<QWidget>(name)->isHidden(), name);
     }
-    QCOMPARE(child<QHBoxLayout>("MainLayout")->indexOf(child<QWidget>("TextAttributesBg")), -1);
+    QCOMPARE(
+        clientChild<QHBoxLayout>("MainLayout")->indexOf(clientChild<QWidget>("TextAttributesBg")),
+        -1);
     QCOMPARE(pageTip(), QString("1 / 1"));
     QVERIFY(!panelEnabled());
 }
@@ -232,7 +235,7 @@ void TestClient::identifier()
     Programme programme;
     programme.text->SetIdentifier("sign-7");
     client()->Init(programme.text);
-    auto *const edit = child<QLineEdit>("GUID");
+    auto *const edit = clientChild<QLineEdit>("GUID");
     QVERIFY(!edit->isHidden());
     QCOMPARE(edit->text(), QString("sign-7"));
     edit->setText("sign-8");
@@ -248,13 +251,13 @@ void TestClient::initFindsItem()
     client()->Init(programme.frame);
     QCOMPARE(listeners(programme.text, playSignal), 1);
     QVERIFY(panelEnabled());
-    QVERIFY(!child<QWidget>("TextAttributesBg")->isHidden());
-    QVERIFY(child<QWidget>("BtnBg")->isHidden());
+    QVERIFY(!clientChild<QWidget>("TextAttributesBg")->isHidden());
+    QVERIFY(clientChild<QWidget>("BtnBg")->isHidden());
     client()->Init(programme.frame);
     client()->Init(programme.text);
     QCOMPARE(listeners(programme.text, playSignal), 1);
     QCOMPARE(listeners(programme.frame, frameSignal), 1);
-    QCOMPARE(listeners(child<QWidget>("wgtTextEditor"), "DocumentHasTable(bool)"), 1);
+    QCOMPARE(listeners(clientChild<QWidget>("wgtTextEditor"), "DocumentHasTable(bool)"), 1);
 }
 
 void TestClient::initIgnoresForeignNodes()
@@ -277,35 +280,30 @@ void TestClient::initLogsFrame()
 {
     Programme programme;
     programme.frame->SetName("Left wall");
-    const pluginhost::MessageCatcher catcher;
-    client()->Init(programme.text);
-    QCOMPARE(catcher.messages().filter("LTextClient::Init").size(), 0);
-    client()->Init(programme.frame);
-    const QStringList lines = catcher.messages().filter("LTextClient::Init");
-    QCOMPARE(lines.size(), 1);
     const QRegularExpression expected(
         R"(^\d{4}-\d\d-\d\d \d\d:\d\d:\d\d\.\d{3} )"
         R"(\[\.\\ltext_client\.cpp::Lum::LTextPlugin::LTextClient::Init::43\] Frame Left wall$)");
-    QVERIFY2(expected.match(lines.first()).hasMatch(), qPrintable(lines.first()));
+    QTest::ignoreMessage(QtDebugMsg, expected);
+    client()->Init(programme.frame);
 }
 
 void TestClient::widgetGetters()
 {
     Programme programme;
-    auto *const panel = child<QWidget>("TextAttributesBg");
+    auto *const panel = clientChild<QWidget>("TextAttributesBg");
     QCOMPARE(client()->GetEditeWidget(programme.text), static_cast<QWidget *>(client()));
-    QVERIFY(!child<QWidget>("BtnBg")->isHidden());
-    QVERIFY(child<QHBoxLayout>("MainLayout")->indexOf(panel) >= 0);
+    QVERIFY(!clientChild<QWidget>("BtnBg")->isHidden());
+    QVERIFY(clientChild<QHBoxLayout>("MainLayout")->indexOf(panel) >= 0);
     QCOMPARE(client()->GetAttributesWidget(programme.text), panel);
-    QVERIFY(child<QWidget>("BtnBg")->isHidden());
+    QVERIFY(clientChild<QWidget>("BtnBg")->isHidden());
     QCOMPARE(listeners(programme.text, playSignal), 1);
-    QCOMPARE(listeners(child<QWidget>("wgtTextEditor"), "DocumentHasTable(bool)"), 1);
+    QCOMPARE(listeners(clientChild<QWidget>("wgtTextEditor"), "DocumentHasTable(bool)"), 1);
 
     // The same node is read anew.
     programme.text->SetDispTime(7);
-    QCOMPARE(child<QComboBox>("DisplayInterval")->currentIndex(), 0);
+    QCOMPARE(clientChild<QComboBox>("DisplayInterval")->currentIndex(), 0);
     client()->GetAttributesWidget(programme.text);
-    QCOMPARE(child<QComboBox>("DisplayInterval")->currentIndex(), 7);
+    QCOMPARE(clientChild<QComboBox>("DisplayInterval")->currentIndex(), 7);
 
     // A host lays the panel elsewhere and takes it back with the edit widget.
     QWidget window;
@@ -365,8 +363,8 @@ void TestClient::pages()
     QVERIFY(
         QMetaObject::invokeMethod(client(), "PageChanged", Q_ARG(int, current), Q_ARG(int, total)));
     QTEST(pageTip(), "text");
-    QTEST(child<QAbstractButton>("PrePage")->isEnabled(), "previous");
-    QTEST(child<QAbstractButton>("NextPage")->isEnabled(), "next");
+    QTEST(clientChild<QAbstractButton>("PrePage")->isEnabled(), "previous");
+    QTEST(clientChild<QAbstractButton>("NextPage")->isEnabled(), "next");
 }
 
 void TestClient::pageButtonsAskTheEditor()
@@ -375,10 +373,10 @@ void TestClient::pageButtonsAskTheEditor()
     client()->Init(programme.text);
     programme.text->SetPageCount(3);
     programme.text->PageChanged();
-    child<QAbstractButton>("NextPage")->click();
+    clientChild<QAbstractButton>("NextPage")->click();
     QCOMPARE(programme.text->GetCurrentPage(), 2);
     QCOMPARE(pageTip(), QString("2 / 3"));
-    child<QAbstractButton>("PrePage")->click();
+    clientChild<QAbstractButton>("PrePage")->click();
     QCOMPARE(programme.text->GetCurrentPage(), 1);
     QCOMPARE(pageTip(), QString("1 / 3"));
 }
@@ -413,8 +411,8 @@ void TestClient::rebindingLeavesOneConnection()
     }
     QCOMPARE(listeners(one.text, playSignal), 0);
     QCOMPARE(listeners(one.frame, frameSignal), 0);
-    QCOMPARE(listeners(child<QComboBox>("FieldCbx"), "currentIndexChanged(QString)"), 1);
-    QCOMPARE(listeners(child<QWidget>("setOperation"), "clicked(bool)"), 1);
+    QCOMPARE(listeners(clientChild<QComboBox>("FieldCbx"), "currentIndexChanged(QString)"), 1);
+    QCOMPARE(listeners(clientChild<QWidget>("setOperation"), "clicked(bool)"), 1);
 }
 
 void TestClient::formerFrameActsNoMore()
@@ -461,14 +459,14 @@ void TestClient::lcdScreens()
     programme.text->SetClearEffect(LEffectNode::Fade);
     programme.text->SetHoldTime(25);
     client()->Init(programme.frame);
-    QTEST(child<QLabel>("lblHold_2")->text(), "holdText");
-    QTEST(child<QDoubleSpinBox>("RemainInterval")->decimals(), "decimals");
+    QTEST(clientChild<QLabel>("lblHold_2")->text(), "holdText");
+    QTEST(clientChild<QDoubleSpinBox>("RemainInterval")->decimals(), "decimals");
     for (const char *name :
          {"ClearSreenEffects", "ClearInterval", "lblClear_2", "DisplayInterval"}) {
-        QTEST(!child<QWidget>(name)->isHidden(), "speeds");
+        QTEST(!clientChild<QWidget>(name)->isHidden(), "speeds");
     }
     for (const char *name : {"lblHold_2", "RemainInterval", "NoEffect"}) {
-        QTEST(!child<QWidget>(name)->isHidden(), "hold");
+        QTEST(!clientChild<QWidget>(name)->isHidden(), "hold");
     }
     QCOMPARE(programme.text->GetHoldTime(), 25);
 }
@@ -512,7 +510,7 @@ void TestClient::initInsideSlot()
     client()->Init(one.text);
     connect(one.text, &LData::AttributeChanged, this, [&two] { client()->Init(two.text); });
     QSignalSpy written(two.text, &LData::AttributeChanged);
-    child<QComboBox>("DisplayInterval")->setCurrentIndex(4);
+    clientChild<QComboBox>("DisplayInterval")->setCurrentIndex(4);
     QCOMPARE(one.text->GetDispTime(), 4);
     QCOMPARE(one.text->GetSpeed(), 0);
     QCOMPARE(written.count(), 0);
@@ -535,7 +533,7 @@ void TestClient::nodeDeletedInsideInit()
 void TestClient::returnLeavesEditing()
 {
     QSignalSpy left(client(), &Lum::INodeClient::editFinish);
-    child<QAbstractButton>("Return")->click();
+    clientChild<QAbstractButton>("Return")->click();
     QCOMPARE(left.count(), 1);
 }
 
@@ -547,7 +545,7 @@ void TestClient::hostDeletesPanel()
         QWidget window;
         (new QVBoxLayout(&window))->addWidget(client()->GetAttributesWidget(programme.text));
     }
-    auto *const speed = child<QComboBox>("DisplayInterval");
+    auto *const speed = clientChild<QComboBox>("DisplayInterval");
     QVERIFY(speed);
     QVERIFY(panelEnabled());
     QCOMPARE(speed->currentIndex(), 3);

@@ -7,10 +7,12 @@
 #include <QtTest>
 #include <QtWidgets>
 
-using pluginhost::child;
-using pluginhost::client;
-
 namespace {
+
+Lum::INodeClient *client()
+{
+    return loadedClient();
+}
 
 DataSourceConfigManager *manager()
 {
@@ -20,8 +22,8 @@ DataSourceConfigManager *manager()
 QStringList chooserTexts()
 {
     QStringList result;
-    for (int i = 0; i < child<QComboBox>("FieldCbx")->count(); ++i) {
-        result << child<QComboBox>("FieldCbx")->itemText(i);
+    for (int i = 0; i < clientChild<QComboBox>("FieldCbx")->count(); ++i) {
+        result << clientChild<QComboBox>("FieldCbx")->itemText(i);
     }
     return result;
 }
@@ -82,8 +84,8 @@ void TestClientData::fieldsAreRegistered()
         {"clock:time", "12:00"}, {"weather:air", "9"}, {"weather:wind", "3"}};
     QCOMPARE(m_text->FieldNameValues(), fields);
     QCOMPARE(chooserTexts(), QStringList({"", "clock:time", "weather:air", "weather:wind"}));
-    QCOMPARE(child<QComboBox>("FieldCbx")->currentIndex(), 0);
-    QVERIFY(!child<QComboBox>("FieldCbx")->isHidden());
+    QCOMPARE(clientChild<QComboBox>("FieldCbx")->currentIndex(), 0);
+    QVERIFY(!clientChild<QComboBox>("FieldCbx")->isHidden());
 
     manager()->SetDynamicData({{"weather", {{"wind", "3", true}}}});
     QCOMPARE(m_text->FieldNameValues(), (QMap<QString, QString>{{"weather:wind", "3"}}));
@@ -98,7 +100,7 @@ void TestClientData::unchangedFieldsCostNothing()
 {
     QSignalSpy fields(m_text.data(), &LTextEffectNode::FieldNameValueChanged);
     QSignalSpy attributes(m_text.data(), &LData::AttributeChanged);
-    QSignalSpy rows(child<QComboBox>("FieldCbx")->model(), &QAbstractItemModel::rowsInserted);
+    QSignalSpy rows(clientChild<QComboBox>("FieldCbx")->model(), &QAbstractItemModel::rowsInserted);
     QSignalSpy announced(manager(), &DataSourceConfigManager::SourceChanged);
     emit manager()->ConfigChanged();
     QCOMPARE(fields.count() + attributes.count() + rows.count(), 0);
@@ -151,7 +153,7 @@ void TestClientData::chooserWritesByTableType()
             written << changed;
         }
     });
-    auto *const chooser = child<QComboBox>("FieldCbx");
+    auto *const chooser = clientChild<QComboBox>("FieldCbx");
     chooser->setCurrentIndex(chooser->findText("weather:air"));
     QCOMPARE(written, QStringList({"TableBindKey", key}));
     QCOMPARE(m_text->GetTableBindKey(), QString("weather:air"));
@@ -168,23 +170,23 @@ void TestClientData::chooserFollowsTheNode()
 {
     m_text->SetTableFixedBindKey("weather:wind");
     m_text->SetTableRowBindKey("clock:time");
-    auto *const editor = child<QWidget>("wgtTextEditor");
+    auto *const editor = clientChild<QWidget>("wgtTextEditor");
     QVERIFY(QMetaObject::invokeMethod(editor, "TableBindFieldChanged"));
-    QCOMPARE(child<QComboBox>("FieldCbx")->currentText(), QString("weather:wind"));
+    QCOMPARE(clientChild<QComboBox>("FieldCbx")->currentText(), QString("weather:wind"));
     m_text->SetTableType(1);
     QVERIFY(QMetaObject::invokeMethod(editor, "DocumentHasTable", Q_ARG(bool, true)));
-    QCOMPARE(child<QComboBox>("FieldCbx")->currentText(), QString("clock:time"));
+    QCOMPARE(clientChild<QComboBox>("FieldCbx")->currentText(), QString("clock:time"));
     QCOMPARE(m_text->GetTableBindKey(), QString());
     QVERIFY(QMetaObject::invokeMethod(editor, "DocumentHasTable", Q_ARG(bool, false)));
-    QVERIFY(child<QWidget>("FieldCbx")->isHidden());
-    QVERIFY(child<QWidget>("FieldLab")->isHidden());
+    QVERIFY(clientChild<QWidget>("FieldCbx")->isHidden());
+    QVERIFY(clientChild<QWidget>("FieldLab")->isHidden());
 }
 
 void TestClientData::unregisteredFieldStays()
 {
     m_text->SetTableFixedBindKey("tides:high");
     emit manager()->ConfigChanged();
-    QCOMPARE(child<QComboBox>("FieldCbx")->currentText(), QString("tides:high"));
+    QCOMPARE(clientChild<QComboBox>("FieldCbx")->currentText(), QString("tides:high"));
     QCOMPARE(m_text->GetTableFixedBindKey(), QString("tides:high"));
 }
 
@@ -210,7 +212,7 @@ void TestClientData::nodeDeletedWhileRegistered()
     auto *const doomed = new LTextEffectNode;
     connect(doomed, &LTextEffectNode::FieldNameValueChanged, this, [doomed] { delete doomed; });
     client()->Init(doomed);
-    QVERIFY(!child<QWidget>("TextAttributesContentBg")->isEnabled());
+    QVERIFY(!clientChild<QWidget>("TextAttributesContentBg")->isEnabled());
 }
 
 QTEST_MAIN(TestClientData)

@@ -10,14 +10,16 @@
 #include <QtTest>
 #include <QtWidgets>
 
-using pluginhost::child;
-using pluginhost::client;
-
 namespace {
+
+Lum::INodeClient *client()
+{
+    return loadedClient();
+}
 
 QComboBox *box(const char *name)
 {
-    return child<QComboBox>(name);
+    return clientChild<QComboBox>(name);
 }
 
 QStringList texts(const QComboBox *combo)
@@ -109,7 +111,7 @@ void TestPlayPanel::controlsWrite()
     QFETCH(QVariant, value);
     QFETCH(QVariantMap, written);
     QSignalSpy changes(m_text, &LData::AttributeChanged);
-    auto *const widget = child<QWidget>(QTest::currentDataTag());
+    auto *const widget = clientChild<QWidget>(QTest::currentDataTag());
     if (auto *const combo = qobject_cast<QComboBox *>(widget)) {
         combo->setCurrentIndex(value.toInt());
     } else if (auto *const button = qobject_cast<QRadioButton *>(widget)) {
@@ -145,19 +147,19 @@ void TestPlayPanel::holdIsCutOff()
 void TestPlayPanel::everyTenthIsKept()
 {
     for (int tenths = 1; tenths <= 3000; ++tenths) {
-        child<QDoubleSpinBox>("RemainInterval")->setValue(tenths / 10.0);
+        clientChild<QDoubleSpinBox>("RemainInterval")->setValue(tenths / 10.0);
         QCOMPARE(m_text->GetHoldTime(), tenths);
     }
 }
 
 void TestPlayPanel::speedHoldsThePage()
 {
-    child<QDoubleSpinBox>("RemainInterval")->setValue(0);
+    clientChild<QDoubleSpinBox>("RemainInterval")->setValue(0);
     QCOMPARE(m_text->GetHoldTime(), 0);
     box("DisplayInterval")->setCurrentIndex(2);
     QCOMPARE(m_text->GetHoldTime(), 50);
-    QCOMPARE(child<QDoubleSpinBox>("RemainInterval")->value(), 5.0);
-    child<QDoubleSpinBox>("RemainInterval")->setValue(0.1);
+    QCOMPARE(clientChild<QDoubleSpinBox>("RemainInterval")->value(), 5.0);
+    clientChild<QDoubleSpinBox>("RemainInterval")->setValue(0.1);
     box("DisplayInterval")->setCurrentIndex(3);
     QCOMPARE(m_text->GetHoldTime(), 1);
 }
@@ -202,8 +204,8 @@ void TestPlayPanel::buttons()
     QComboBox *const clears = box("ClearSreenEffects");
     displays->setCurrentIndex(displays->findData(display));
     clears->setCurrentIndex(clears->findData(clear));
-    QTEST(child<QAbstractButton>("NoEffect")->isChecked(), "none");
-    QTEST(child<QAbstractButton>("Random")->isChecked(), "random");
+    QTEST(clientChild<QAbstractButton>("NoEffect")->isChecked(), "none");
+    QTEST(clientChild<QAbstractButton>("Random")->isChecked(), "random");
 }
 
 void TestPlayPanel::buttonsSelectBothEffects_data()
@@ -219,7 +221,7 @@ void TestPlayPanel::buttonsSelectBothEffects()
     m_text->SetDispEffect(LEffectNode::Fade);
     m_text->SetClearEffect(LEffectNode::KeepPage);
     client()->GetAttributesWidget(m_text);
-    auto *const button = child<QAbstractButton>(QTest::currentDataTag());
+    auto *const button = clientChild<QAbstractButton>(QTest::currentDataTag());
     for (int click = 0; click < 2; ++click) {
         button->click();
         QCOMPARE(m_text->GetDispEffect(), effect);
@@ -257,7 +259,7 @@ void TestPlayPanel::dependents()
     client()->GetAttributesWidget(m_text);
     QStringList shown;
     const auto add = [&shown](const char *name, const char *word) {
-        if (!child<QWidget>(name)->isHidden()) {
+        if (!clientChild<QWidget>(name)->isHidden()) {
             shown << word;
         }
     };
@@ -292,7 +294,7 @@ void TestPlayPanel::fillingWritesNothing()
     QCOMPARE(box("DisplayEffects")->currentData(), QVariant(7));
     QCOMPARE(box("DisplayInterval")->currentIndex(), 8);
     QCOMPARE(box("ClearInterval")->currentIndex(), 0);
-    QVERIFY(child<QRadioButton>("rbByTime")->isChecked());
+    QVERIFY(clientChild<QRadioButton>("rbByTime")->isChecked());
 }
 
 void TestPlayPanel::translationKeepsSelections()
@@ -419,7 +421,7 @@ void TestPlayPanel::slotsStopWithTheNode()
     init();
     const QPointer<LTextEffectNode> node = m_text;
     connect(m_text, &LData::AttributeChanged, this, [node] { delete node; });
-    child<QAbstractButton>("Random")->click();
+    clientChild<QAbstractButton>("Random")->click();
     QVERIFY(!node);
 }
 

@@ -1,44 +1,56 @@
 #include "pluginhost.h"
 
+#include "fontfolder.h"
 #include "inodeclient.h"
 
 #include <QApplication>
-#include <QMutex>
+#include <QDebug>
+#include <QLibrary>
 #include <QWidget>
 
-namespace pluginhost {
+namespace {
 
-static QMutex s_mutex;
-static QStringList s_messages;
+QStringList s_found;
+QtMessageHandler s_former = nullptr;
 
-QLibrary &library()
+void catchDead(QtMsgType type, const QMessageLogContext &context, const QString &text)
 {
-    static QLibrary plugin(QStringLiteral(LCTRLSEX_PLUGIN));
-    if (!plugin.load()) {
-        qFatal("%s", qPrintable(plugin.errorString()));
+    if (text.contains(QLatin1String("No such signal")) ||
+        text.contains(QLatin1String("No such slot"))) {
+        s_found.append(text);
     }
-    return plugin;
+    if (s_former != nullptr) {
+        s_former(type, context, text);
+    }
 }
 
-Lum::INodeClient *client()
+} // namespace
+
+Lum::INodeClient *loadedClient()
 {
-    // The accessor returns the derived class, whose first base is the interface.
     using Accessor = Lum::INodeClient *(*)();
-    const auto accessor = reinterpret_cast<Accessor>(
-        library().resolve("_ZN3Lum11LTextPlugin11LTextClient8instanceEv"));
-    return accessor ? accessor() : nullptr;
+    static const auto accessor = []() -> Accessor {
+        FontFolder::fill();
+        QLibrary library(QStringLiteral(LCTRLSEX_PLUGIN));
+        // Lum::LTextPlugin::LTextClient::instance()
+        const auto symbol = library.resolve("_ZN3Lum11LTextPlugin11LTextClient8instanceEv");
+        if (symbol == nullptr) {
+            qWarning() << library.errorString();
+        }
+        return reinterpret_cast<Accessor>(symbol);
+    }();
+    return accessor != nullptr ? accessor() : nullptr;
 }
 
-QObject *findObject(const QString &name)
+QObject *clientObject(const char *name)
 {
-    Lum::INodeClient *const root = client();
-    if (auto *const found = root->findChild<QObject *>(name)) {
+    const QString objectName = QString::fromLatin1(name);
+    if (auto *const found = loadedClient()->findChild<QObject *>(objectName)) {
         return found;
     }
-    // The attributes panel may lie in a window of the test.
     const QWidgetList windows = QApplication::topLevelWidgets();
-    for (QWidget *window : windows) {
-        if (auto *const found = window->findChild<QObject *>(name)) {
+    for (const QWidget *window : windows) {
+        if (auto *const found = window->findChild<QObject *>(objectName)) {
             return found;
         }
     }
@@ -47,6 +59,7 @@ QObject *findObject(const QString &name)
 
 int listeners(const QObject *sender, const char *signal)
 {
+    // Opens a protected operation without a subclass of every sender.
     struct Opened : QObject
     {
         using QObject::receivers;
@@ -56,34 +69,18 @@ int listeners(const QObject *sender, const char *signal)
     return (sender->*(&Opened::receivers))(coded.constData());
 }
 
-static void keepMessage(QtMsgType, const QMessageLogContext &, const QString &message)
+DeadConnections::DeadConnections()
 {
-    const QMutexLocker lock(&s_mutex);
-    s_messages.append(message);
+    s_found.clear();
+    s_former = qInstallMessageHandler(catchDead);
 }
 
-MessageCatcher::MessageCatcher()
+DeadConnections::~DeadConnections()
 {
-    s_messages.clear();
-    m_before = qInstallMessageHandler(keepMessage);
+    qInstallMessageHandler(s_former);
 }
 
-MessageCatcher::~MessageCatcher()
+QStringList DeadConnections::found()
 {
-    qInstallMessageHandler(m_before);
+    return s_found;
 }
-
-QStringList MessageCatcher::messages() const
-{
-    const QMutexLocker lock(&s_mutex);
-    return s_messages;
-}
-
-QStringList MessageCatcher::deadConnections() const
-{
-    return messages().filter(QLatin1String("No such s")) +
-           messages().filter(QLatin1String("Cannot connect")) +
-           messages().filter(QLatin1String("No matching signal"));
-}
-
-} // namespace pluginhost

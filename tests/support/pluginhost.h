@@ -1,8 +1,6 @@
 #pragma once
 
-#include <QLibrary>
 #include <QObject>
-#include <QString>
 #include <QStringList>
 
 namespace Lum {
@@ -10,47 +8,33 @@ class INodeClient;
 }
 
 /**
- * Loads the plug-in at run time and finds its client, as a host does.
- *
- * Tests link the host library only: they know the client by its interface, its widgets by their
- * object names, and its slots by their signatures.
+ * The client of the plug-in library, loaded at run time through its exported accessor as any host
+ * does. Null, with a warning, when that fails. The font folder is filled first. Once the client
+ * was deleted with a window it is another one.
  */
-namespace pluginhost {
+[[nodiscard]] Lum::INodeClient *loadedClient();
 
-/** The plug-in, loaded on first use; a library that cannot be loaded ends the test. */
-[[nodiscard]] QLibrary &library();
-/** What the exported accessor returns. */
-[[nodiscard]] Lum::INodeClient *client();
+/** What is found under the client, or else in another window, by its object name; may be null. */
+[[nodiscard]] QObject *clientObject(const char *name);
 
-/** A child of the client, wherever it lies, by its object name; null when there is none. */
+/** The same as the class that is wanted; null too when it is of another one. */
 template <typename Widget>
-[[nodiscard]] Widget *child(const char *name);
-
-[[nodiscard]] QObject *findObject(const QString &name);
+[[nodiscard]] Widget *clientChild(const char *name)
+{
+    return qobject_cast<Widget *>(clientObject(name));
+}
 
 /** How many slots are connected to a signal, "name(parameters)", of an object. */
 [[nodiscard]] int listeners(const QObject *sender, const char *signal);
 
-template <typename Widget>
-Widget *child(const char *name)
-{
-    return qobject_cast<Widget *>(findObject(QString::fromLatin1(name)));
-}
-
-/** While it lives, keeps every message of the process, among them those of dead connections. */
-class MessageCatcher
+/** Collects messages of connections that name a signal or slot which does not exist. */
+class DeadConnections
 {
 public:
-    MessageCatcher();
-    ~MessageCatcher();
+    DeadConnections();
+    ~DeadConnections();
+    DeadConnections(const DeadConnections &) = delete;
+    DeadConnections &operator=(const DeadConnections &) = delete;
 
-    [[nodiscard]] QStringList messages() const;
-    /** Messages of connections whose signal or slot does not exist; a test expects none. */
-    [[nodiscard]] QStringList deadConnections() const;
-
-private:
-    Q_DISABLE_COPY(MessageCatcher)
-    QtMessageHandler m_before;
+    [[nodiscard]] static QStringList found();
 };
-
-} // namespace pluginhost
