@@ -412,6 +412,8 @@ private slots:
         };
         const QVector<int> codes{12, 13, 14, 14, 16, 17, 18, 18, 19, 19, 24, 26};
         Desk desk(3, 3);
+        desk.view.document()->clearUndoRedoStacks();
+        const QString before = desk.view.toHtml();
         for (int step = 0; step < 2000; ++step) {
             if (desk.table() == nullptr) {
                 QVERIFY(desk.commands.insert(sized(1 + below(5), 1 + below(5)), {}));
@@ -436,6 +438,15 @@ private slots:
                 QCOMPARE(flaw(*desk.table()), QByteArray());
             }
         }
+        const auto goTo = [&desk](void (QTextEdit::*step)(), bool (QTextDocument::*more)() const) {
+            while ((desk.view.document()->*more)()) {
+                (desk.view.*step)();
+            }
+            return desk.view.toHtml();
+        };
+        const QString after = goTo(&QTextEdit::redo, &QTextDocument::isRedoAvailable);
+        QCOMPARE(goTo(&QTextEdit::undo, &QTextDocument::isUndoAvailable), before);
+        QCOMPARE(goTo(&QTextEdit::redo, &QTextDocument::isRedoAvailable), after);
     }
 };
 
