@@ -1,7 +1,10 @@
 #include "tableground.h"
 
 #include <QAbstractTextDocumentLayout>
+#include <QImage>
 #include <QPainter>
+#include <QTextBlock>
+#include <QTextCursor>
 #include <QTextDocument>
 #include <QTextTable>
 
@@ -22,11 +25,41 @@ bool isReached(const QTextTable &table, const QTextDocument &document, const QRe
     return last >= table.firstPosition();
 }
 
+/** What the layout makes of one pixel of a table's lengths: a view's device may differ. */
+qreal lengthScale(const QTextDocument &document)
+{
+    const QPaintDevice *device = document.documentLayout()->paintDevice();
+    const QImage usual(1, 1, QImage::Format_RGB32);
+    return device == nullptr ? 1 : qreal(device->logicalDpiY()) / usual.logicalDpiY();
+}
+
+/** Where the contents of the first row begin; a cell that is aligned otherwise begins lower. */
+qreal firstLine(const QTextTable &table, const QAbstractTextDocumentLayout &layout)
+{
+    qreal top = layout.frameBoundingRect(table.document()->rootFrame()).bottom();
+    for (int column = 0; column < table.columns(); ++column) {
+        const QTextBlock block = table.cellAt(0, column).firstCursorPosition().block();
+        const qreal start = layout.blockBoundingRect(block).top() - block.blockFormat().topMargin();
+        top = qMin(top, start);
+    }
+    return top;
+}
+
+/**
+ * From the middle of the outer border to the middle of the one opposite. The rectangle of a table
+ * that the layout tells has the right size, but starts where the text of the first cell does.
+ */
 QRectF groundOf(QTextTable *table, const QTextDocument &document)
 {
-    const QTextTableFormat format = table->format();
-    return document.documentLayout()->frameBoundingRect(table).adjusted(
-        format.leftMargin(), format.topMargin(), -format.rightMargin(), -format.bottomMargin());
+    const QAbstractTextDocumentLayout &layout = *document.documentLayout();
+    const qreal scale = lengthScale(document);
+    const qreal border = table->format().border() * scale;
+    const qreal padding = table->format().cellPadding() * scale;
+    const qreal outside = border + (border > 0 ? qMax(1.0, border / 2) : 0);
+    const QRectF frame = layout.frameBoundingRect(table);
+    const qreal inwards = padding + border / 2;
+    return {frame.left() - inwards, firstLine(*table, layout) - inwards,
+            frame.width() - 2 * outside, frame.height() - 2 * border - outside};
 }
 
 } // namespace
