@@ -39,8 +39,7 @@ qreal firstLine(const QTextTable &table, const QAbstractTextDocumentLayout &layo
     qreal top = layout.frameBoundingRect(table.document()->rootFrame()).bottom();
     for (int column = 0; column < table.columns(); ++column) {
         const QTextBlock block = table.cellAt(0, column).firstCursorPosition().block();
-        const qreal start = layout.blockBoundingRect(block).top() - block.blockFormat().topMargin();
-        top = qMin(top, start);
+        top = qMin(top, layout.blockBoundingRect(block).top());
     }
     return top;
 }
