@@ -1,9 +1,6 @@
-#include "table/tableground.h"
-
 #include "pagerenderer.h"
 #include "table/tableoperations.h"
 
-#include <QPainter>
 #include <QTextBlock>
 #include <QTextCursor>
 #include <QTextDocument>
@@ -61,17 +58,6 @@ QImage page(QTextDocument &document, bool isTransparent)
     return PageRenderer().topPage(&document, style);
 }
 
-int pixels(const QImage &image, const QColor &color)
-{
-    int count = 0;
-    for (int y = 0; y < image.height(); ++y) {
-        for (int x = 0; x < image.width(); ++x) {
-            count += int(image.pixelColor(x, y) == color);
-        }
-    }
-    return count;
-}
-
 } // namespace
 
 class TestTableGround : public QObject
@@ -105,39 +91,16 @@ private slots:
                 mergeCells(each, {1, 0, 2, 2});
             }
         }
+        const QMap<bool, QImage> blank{{false, page(table, false)}, {true, page(table, true)}};
         colourCells(coloured);
         QTextTableFormat format = plain->format();
         format.setBackground(ground);
         plain->setFormat(format);
         for (const bool isTransparent : {false, true}) {
             const QImage image = page(table, isTransparent);
+            QVERIFY(image != blank.value(isTransparent));
             QCOMPARE(image, page(cells, isTransparent));
-            QVERIFY(pixels(image, ground) > 2000);
         }
-    }
-
-    void fillsOnlyWhatIsShown()
-    {
-        QTextDocument document;
-        QTextTable *table = insertTable(&document, 1, 1, Qt::AlignLeft);
-        QTextTableFormat format = table->format();
-        format.setBackground(ground);
-        table->setFormat(format);
-        document.setTextWidth(100);
-        const auto drawn = [&document](const QRectF &shown) {
-            QImage image(100, 100, QImage::Format_RGB32);
-            image.fill(Qt::white);
-            QPainter painter(&image);
-            drawTableGrounds(&painter, document, shown);
-            return image;
-        };
-        const QImage image = drawn(QRectF(0, 40, 100, 10));
-        QCOMPARE(image.pixelColor(40, 45), ground);
-        QCOMPARE(image.pixelColor(40, 39), QColor(Qt::white));
-        QCOMPARE(image.pixelColor(40, 51), QColor(Qt::white));
-        format.setBorderCollapse(false); // then the text engine fills it
-        table->setFormat(format);
-        QCOMPARE(drawn(QRectF(0, 40, 100, 10)).pixelColor(40, 45), QColor(Qt::white));
     }
 };
 
