@@ -17,10 +17,11 @@ namespace lctrlsex {
 
 namespace {
 
-QString tr(const char *text)
+/** Texts of this file, under one name for translators. */
+struct NodePublisherTexts
 {
-    return QCoreApplication::translate("lctrlsex::NodePublisher", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(NodePublisher)
+};
 
 /** A document that can be loaded, or why there is none. */
 struct Readable
@@ -33,11 +34,14 @@ Readable readStored(const QString &stored)
 {
     const DecodedDocument decoded = decodeDocument(stored);
     if (!decoded.error.isEmpty()) {
-        return {QString(), tr("The stored document cannot be read: %1.").arg(decoded.error)};
+        return {
+            QString(),
+            NodePublisherTexts::tr("The stored document cannot be read: %1.").arg(decoded.error)};
     }
     const GuardedHtml guarded = guardHtml(decoded.html);
     if (!guarded.accepted) {
-        return {QString(), tr("The stored document cannot be shown (line %1, column %2): %3. %4.")
+        return {QString(), NodePublisherTexts::tr(
+                               "The stored document cannot be shown (line %1, column %2): %3. %4.")
                                .arg(guarded.line)
                                .arg(guarded.column)
                                .arg(guarded.reason, guarded.remedy)};
@@ -110,9 +114,19 @@ NodePublisher::Pushed NodePublisher::push()
 {
     const QPointer<LTextEffectNode> node = m_node;
     const int attachment = m_attachment;
-    if (!m_isLoaded || node.isNull() || m_keepsStored) {
-        return Nothing;
+    if (!m_isLoaded || node.isNull() || m_keepsStored || m_pushing == attachment) {
+        return Nothing; // an announcement of a push may ask for another one
     }
+    m_pushing = attachment;
+    const Pushed result = pushNow(node, attachment);
+    if (m_pushing == attachment) {
+        m_pushing = 0;
+    }
+    return result;
+}
+
+NodePublisher::Pushed NodePublisher::pushNow(const QPointer<LTextEffectNode> &node, int attachment)
+{
     const bool isStoredAsIs =
         !isEdited() && nodeCall(node, &LTextEffectNode::GetRawHtmlText) == m_rawText;
     if (!isStill(node, attachment) || (isStoredAsIs && !m_forceRedraw)) {
@@ -134,7 +148,7 @@ bool NodePublisher::storeTexts(const QPointer<LTextEffectNode> &node, int attach
     const QString raw = encodeDocument(html);
     m_revision = m_view->document()->revision();
     const bool isSame = raw == nodeCall(node, &LTextEffectNode::GetRawHtmlText);
-    m_rawText = raw; // before anything is announced: an announcement may come back here
+    m_rawText = raw;
     if (isSame || !isStill(node, attachment)) {
         return false;
     }
