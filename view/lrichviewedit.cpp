@@ -2,6 +2,7 @@
 
 #include "documentsetup.h"
 #include "itemdocument.h"
+#include "table/tableground.h"
 
 #include <QKeyEvent>
 #include <QMimeData>
@@ -117,6 +118,7 @@ void LRichViewEdit::paintEvent(QPaintEvent *event)
     if (m_isTransparent) {
         paintChequers();
     }
+    paintTableGrounds(event->rect());
     QTextEdit::paintEvent(event);
     paintPageEdges(event->rect());
 }
@@ -132,6 +134,14 @@ void LRichViewEdit::paintChequers()
         return pixmap;
     }();
     QPainter(viewport()).drawTiledPixmap(viewport()->rect(), tile);
+}
+
+void LRichViewEdit::paintTableGrounds(const QRect &region)
+{
+    const QPoint scrolled(horizontalScrollBar()->value(), verticalScrollBar()->value());
+    QPainter painter(viewport());
+    painter.translate(-scrolled);
+    lctrlsex::drawTableGrounds(&painter, *m_document, region.translated(scrolled));
 }
 
 void LRichViewEdit::paintPageEdges(const QRect &region)
