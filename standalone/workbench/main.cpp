@@ -93,7 +93,9 @@ int main(int argc, char **argv)
         return isMistake ? 2 : 0;
     }
     setUpApplication();
-    QApplication application(argc, argv);
+    // The toolkit has an option --plugin of its own, so it gets to see the program's name only.
+    int nameAlone = 1;
+    QApplication application(nameAlone, argv);
     const workbench::WorkbenchSettings settings;
     dress(line.palette.isEmpty() ? settings.palette() : line.palette);
     chooseLanguage(line.language, settings.language());

@@ -69,13 +69,16 @@ void paintThumbnail(QPainter *painter, const QRect &place, const QImage &image,
 QString sizeText(const LNode *node)
 {
     const QSize size = node->Size();
-    if (!size.isValid()) {
-        return NodeDelegate::tr("no size");
-    }
-    const QString text = NodeDelegate::tr("%1 × %2").arg(size.width()).arg(size.height());
+    const QString text =
+        size.isValid() ? NodeDelegate::tr("%1 × %2").arg(size.width()).arg(size.height())
+                       : NodeDelegate::tr("no size");
     const auto *controller = qobject_cast<const LControllerNode *>(node);
-    return controller != nullptr ? NodeDelegate::tr("%1, %2").arg(controller->GetDeviceKind(), text)
-                                 : text;
+    if (controller == nullptr) {
+        return text;
+    }
+    // Screens may all have sizes of their own.
+    const QString kind = controller->GetDeviceKind();
+    return size.isValid() ? NodeDelegate::tr("%1, %2").arg(kind, text) : kind;
 }
 
 QImage imageOf(const QVariant &decoration)
