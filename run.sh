@@ -9,7 +9,7 @@ set -eu
 root=$(CDPATH= cd -- "$(dirname -- "$0")" && pwd)
 build="$root/build/release"
 
-"$root/cmake/install-dependencies.sh" g++ cmake ninja-build ccache pkg-config qtbase5-dev \
+"$root/cmake/install-dependencies.sh" g++ cmake ninja-build ccache pkg-config qtbase5-dev qttools5-dev-tools qttranslations5-l10n \
     libfontconfig1-dev fonts-dejavu-core fonts-liberation2 fonts-wqy-zenhei
 
 log="$build.log"

@@ -42,6 +42,14 @@ void ItemDocument::loadItem(const QString &html, const TextSettings &settings)
     applyLetterSpacing(this, settings);
 }
 
+void ItemDocument::clearForView(const TextSettings &settings)
+{
+    clear();
+    m_denied.clear();
+    m_images.clear();
+    prepareView(this, settings);
+}
+
 QVariant ItemDocument::loadResource(int type, const QUrl &name)
 {
     if (type != QTextDocument::ImageResource) {

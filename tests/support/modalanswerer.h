@@ -1,36 +1,37 @@
 #pragma once
 
-#include <QObject>
-#include <QString>
+#include <QApplication>
+#include <QDialog>
 #include <QTimer>
 
-/**
- * Presses a named button of the next modal dialog, so that a test can run what asks the user.
- *
- * The dialog must come within two seconds; the destructor, or wasAnswered(), tells. Make it before
- * the call that opens the dialog.
- */
+#include <functional>
+
+/** Answers the next modal dialog; a test asks afterwards whether there was one. */
 class ModalAnswerer : public QObject
 {
-    Q_OBJECT
-
 public:
-    /** @p button is the object name of the button; @p dialog that of the dialog, any when empty. */
-    explicit ModalAnswerer(const QString &button, const QString &dialog = QString());
-    /** Fails the running test when no such dialog came. */
-    ~ModalAnswerer() override;
+    explicit ModalAnswerer(std::function<void(QDialog *)> answer)
+        : m_answer(std::move(answer))
+    {
+        m_poll.setInterval(5);
+        connect(&m_poll, &QTimer::timeout, this, [this] { look(); });
+        m_poll.start();
+    }
 
-    [[nodiscard]] bool wasAnswered() const { return m_wasAnswered; }
-    /** What the dialog said: its texts, joined. */
-    [[nodiscard]] QString text() const { return m_text; }
+    [[nodiscard]] bool wasAsked() const { return m_wasAsked; }
 
 private:
-    void look();
+    void look()
+    {
+        auto *dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget());
+        if (dialog != nullptr && dialog->isVisible()) {
+            m_poll.stop();
+            m_wasAsked = true;
+            m_answer(dialog);
+        }
+    }
 
-    QString m_button;
-    QString m_dialog;
-    QString m_text;
-    QTimer m_timer;
-    int m_looks = 0;
-    bool m_wasAnswered = false;
+    std::function<void(QDialog *)> m_answer;
+    QTimer m_poll;
+    bool m_wasAsked = false;
 };
