@@ -181,7 +181,7 @@ void ItemEditor::giveBack()
     if (m_attributes) {
         m_attributes->setParent(m_client);
     }
-    if (m_client) {
+    if (m_client && m_client->parentWidget() == this) {
         m_client->hide();
         m_stack->removeWidget(m_client);
         m_client->setParent(nullptr);

@@ -10,7 +10,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QEvent>
-#include <QFormLayout>
+#include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
@@ -60,22 +60,33 @@ LayoutPanel::LayoutPanel(ProgrammeDocument *document, QWidget *parent)
 
 void LayoutPanel::build()
 {
-    m_form = new QFormLayout(this);
-    m_form->setContentsMargins(10, 10, 10, 10);
-    m_form->setVerticalSpacing(8);
-    m_form->setLabelAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    // Not a form layout: that one keeps the room of rows that are hidden.
+    auto *grid = new QGridLayout(this);
+    grid->setContentsMargins(10, 10, 10, 10);
+    grid->setHorizontalSpacing(10);
+    grid->setVerticalSpacing(8);
+    grid->setColumnStretch(1, 1);
+    int row = 0;
+    const auto addRow = [grid, &row](QWidget *label, QWidget *field) {
+        grid->addWidget(label, row, 0);
+        grid->addWidget(field, row++, 1);
+    };
+    const auto addWide = [grid, &row](QWidget *widget) {
+        grid->addWidget(widget, row++, 0, 1, 2);
+    };
     m_kind = new QLabel(this);
     m_kind->setObjectName(QStringLiteral("NodeKind"));
     m_kind->setWordWrap(true);
-    m_form->addRow(m_kind);
+    addWide(m_kind);
     m_name = new QLineEdit(this);
     m_name->setObjectName(QStringLiteral("NodeName"));
     m_nameLabel = new QLabel(this);
-    m_form->addRow(m_nameLabel, m_name);
+    m_nameLabel->setBuddy(m_name);
+    addRow(m_nameLabel, m_name);
     m_device = new QComboBox(this);
     m_device->setObjectName(QStringLiteral("DeviceKind"));
     m_deviceLabel = new QLabel(this);
-    m_form->addRow(m_deviceLabel, m_device);
+    addRow(m_deviceLabel, m_device);
 
     m_x = pixelBox(QStringLiteral("NodeX"), -lctrlsex::LongestPageSide, this);
     m_y = pixelBox(QStringLiteral("NodeY"), -lctrlsex::LongestPageSide, this);
@@ -85,23 +96,24 @@ void LayoutPanel::build()
     m_yLabel->setBuddy(m_y);
     m_place = pairOf({m_xLabel, m_x, m_yLabel, m_y}, this);
     m_placeLabel = new QLabel(this);
-    m_form->addRow(m_placeLabel, m_place);
+    addRow(m_placeLabel, m_place);
 
     m_inherits = new QCheckBox(this);
     m_inherits->setObjectName(QStringLiteral("InheritSize"));
-    m_form->addRow(m_inherits);
+    addWide(m_inherits);
     m_width = pixelBox(QStringLiteral("NodeWidth"), 1, this);
     m_height = pixelBox(QStringLiteral("NodeHeight"), 1, this);
     m_size = pairOf({m_width, new QLabel(QStringLiteral("×"), this), m_height}, this);
     m_sizeLabel = new QLabel(this);
-    m_form->addRow(m_sizeLabel, m_size);
+    addRow(m_sizeLabel, m_size);
     m_sizeLabel->setBuddy(m_width);
 
     m_advice = new QLabel(this);
     m_advice->setObjectName(QStringLiteral("LayoutAdvice"));
     m_advice->setWordWrap(true);
     m_advice->setTextFormat(Qt::PlainText);
-    m_form->addRow(m_advice);
+    addWide(m_advice);
+    grid->setRowStretch(row, 1);
 }
 
 void LayoutPanel::connectFields()
@@ -140,8 +152,8 @@ void LayoutPanel::watchNode()
 void LayoutPanel::refreshFor(const QString &key)
 {
     static const QSet<QString> shown{QStringLiteral("Name"),   QStringLiteral("Width"),
-                                     QStringLiteral("Height"), QStringLiteral("Left"),
-                                     QStringLiteral("Top"),    QStringLiteral("DeviceKind")};
+                                     QStringLiteral("Height"), QStringLiteral("X"),
+                                     QStringLiteral("Y"),      QStringLiteral("DeviceKind")};
     if (shown.contains(key)) {
         refresh();
     }

@@ -7,7 +7,6 @@
 
 class QCheckBox;
 class QComboBox;
-class QFormLayout;
 class QLabel;
 class QLineEdit;
 class QSpinBox;
@@ -57,7 +56,6 @@ private:
     QPointer<LNode> m_node;
     bool m_filling = false;
 
-    QFormLayout *m_form;
     QLabel *m_kind;
     QLabel *m_nameLabel;
     QLineEdit *m_name;

@@ -19,6 +19,7 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QDir>
+#include <QDockWidget>
 #include <QLabel>
 #include <QScrollArea>
 #include <QStatusBar>
@@ -52,12 +53,21 @@ MainWindow::MainWindow(const LoadedPlugin &plugin, const FontFolder::Result &fon
 
 MainWindow::~MainWindow()
 {
-    // Before the docks and the centre die with what the plug-in owns in them.
+    // What the parts say while they let go concerns nobody any more.
+    for (QObject *part :
+         QVector<QObject *>{m_document, m_document->history(), m_model, m_programme, m_wall}) {
+        part->disconnect(this);
+    }
+    // Children die in the order in which they were made, the document first; so it is done here:
+    // first what the plug-in's widgets are in, then all that knows nodes, the document last.
     delete m_editor;
-    // Changes of nodes that die with the document concern nobody any more.
-    m_document->disconnect(this);
-    m_wall->clear();
-    m_layout->setNode(nullptr);
+    for (QDockWidget *dock : {m_programmeDock, m_propertiesDock, m_layoutDock, m_wallDock}) {
+        delete dock;
+    }
+    for (QObject *part :
+         QVector<QObject *>{m_thumbnails, m_structure, m_model, m_autosave, m_pages, m_document}) {
+        delete part;
+    }
 }
 
 void MainWindow::buildCentre(const LoadedPlugin &plugin)

@@ -35,6 +35,12 @@ QString languageName(const QString &code)
     return name.isEmpty() ? code : name;
 }
 
+/** A text of the user's in a menu, where "&" would mark the next letter. */
+QString inMenu(QString text)
+{
+    return text.replace(QLatin1Char('&'), QLatin1String("&&"));
+}
+
 bool hasSlot(const QObject *object, const char *slot)
 {
     return object != nullptr && object->metaObject()->indexOfMethod(slot) >= 0;
@@ -121,11 +127,11 @@ void MainWindow::buildEditMenu()
                     }});
     const auto undoText = [this] {
         const QString step = m_document->history()->undoText();
-        return step.isEmpty() ? tr("&Undo") : tr("&Undo: %1").arg(step);
+        return step.isEmpty() ? tr("&Undo") : tr("&Undo: %1").arg(inMenu(step));
     };
     const auto redoText = [this] {
         const QString step = m_document->history()->redoText();
-        return step.isEmpty() ? tr("&Redo") : tr("&Redo: %1").arg(step);
+        return step.isEmpty() ? tr("&Redo") : tr("&Redo: %1").arg(inMenu(step));
     };
     m_undo = addAction(menu, QStringLiteral("Undo"), undoText, [this] { m_document->undo(); });
     m_undo->setShortcut(QKeySequence::Undo);
@@ -285,8 +291,7 @@ void MainWindow::fillRecentMenu()
     m_recentMenu->clear();
     const QStringList files = m_recent->files();
     for (const QString &file : files) {
-        QAction *action = m_recentMenu->addAction(
-            QDir::toNativeSeparators(file).replace(QLatin1Char('&'), QLatin1String("&&")));
+        QAction *action = m_recentMenu->addAction(inMenu(QDir::toNativeSeparators(file)));
         connect(action, &QAction::triggered, this, [this, file] { openAsked(file); });
     }
     if (files.isEmpty()) {

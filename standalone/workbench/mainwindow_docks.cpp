@@ -18,7 +18,7 @@ namespace {
 /** Changed whenever docks come or go, so that an older state is not applied to them. */
 constexpr int LayoutVersion = 1;
 
-constexpr int ProgrammeWidth = 230;
+constexpr int ProgrammeWidth = 250;
 constexpr int PropertiesWidth = 285;
 /** From this height of the window on layout and item properties fit below each other. */
 constexpr int HeightForBoth = 900;
@@ -91,7 +91,9 @@ void MainWindow::applyDefaultLayout()
     }
     resizeDocks({m_programmeDock, m_propertiesDock}, {ProgrammeWidth, PropertiesWidth},
                 Qt::Horizontal);
-    resizeDocks({m_wallDock}, {height() * 3 / 10}, Qt::Vertical);
+    // On a large window a wall of a usual size is shown at twice its pixels.
+    const int percent = height() >= HeightForBoth ? 36 : 30;
+    resizeDocks({m_wallDock}, {height() * percent / 100}, Qt::Vertical);
 }
 
 void MainWindow::restoreLayout()

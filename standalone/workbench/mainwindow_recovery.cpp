@@ -13,12 +13,6 @@ namespace {
 
 const QString RecoveryNotice = QStringLiteral("recovery");
 
-QString nameOf(const Recovery &recovery)
-{
-    return recovery.original.isEmpty() ? MainWindow::tr("a programme that was never saved")
-                                       : QDir::toNativeSeparators(recovery.original);
-}
-
 QString textOf(const Recovery &recovery)
 {
     if (recovery.state == Recovery::Broken) {
@@ -26,8 +20,12 @@ QString textOf(const Recovery &recovery)
             .arg(recovery.reason, QDir::toNativeSeparators(recovery.journal));
     }
     const QString when = QLocale().toString(recovery.saved.toLocalTime(), QLocale::ShortFormat);
+    if (recovery.original.isEmpty()) {
+        return MainWindow::tr("A programme that you never saved was kept automatically on %1.")
+            .arg(when);
+    }
     const QString found = MainWindow::tr("A copy of %1, saved automatically on %2, was found.")
-                              .arg(nameOf(recovery), when);
+                              .arg(QDir::toNativeSeparators(recovery.original), when);
     return recovery.state == Recovery::OriginalChanged
                ? MainWindow::tr("%1 The file was changed since.").arg(found)
                : found;
@@ -103,7 +101,7 @@ void MainWindow::openSavedInstead(const Recovery &recovery)
                      [recovery] {
                          return tr("This is %1 as it was saved. Is the copy saved automatically "
                                    "still needed?")
-                             .arg(nameOf(recovery));
+                             .arg(QDir::toNativeSeparators(recovery.original));
                      },
                      {{QStringLiteral("DeleteCopyButton"), [] { return tr("&Delete the Copy"); },
                        [recovery, next] {

@@ -69,9 +69,9 @@ void paintThumbnail(QPainter *painter, const QRect &place, const QImage &image,
 QString sizeText(const LNode *node)
 {
     const QSize size = node->Size();
-    const QString text =
-        size.isValid() ? NodeDelegate::tr("%1 × %2").arg(size.width()).arg(size.height())
-                       : NodeDelegate::tr("no size");
+    const QString text = size.isValid()
+                             ? NodeDelegate::tr("%1 × %2").arg(size.width()).arg(size.height())
+                             : NodeDelegate::tr("no size");
     const auto *controller = qobject_cast<const LControllerNode *>(node);
     if (controller == nullptr) {
         return text;

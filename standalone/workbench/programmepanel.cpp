@@ -11,6 +11,7 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QMenu>
+#include <QPushButton>
 #include <QToolButton>
 #include <QTreeView>
 
@@ -23,7 +24,7 @@ ProgrammePanel::ProgrammePanel(ProgrammeTreeModel *model, StructureActions *acti
     , m_actions(actions)
     , m_tree(new QTreeView(this))
     , m_hint(new QLabel(this))
-    , m_add(new QToolButton(this))
+    , m_add(new QPushButton(this))
 {
     setObjectName(QStringLiteral("ProgrammePanel"));
     buildTree();
@@ -50,7 +51,7 @@ void ProgrammePanel::buildTree()
     m_tree->setItemDelegate(new NodeDelegate(m_tree));
     m_tree->setHeaderHidden(true);
     m_tree->setFrameShape(QFrame::NoFrame);
-    m_tree->setIndentation(14);
+    m_tree->setIndentation(12);
     m_tree->setUniformRowHeights(false);
     m_tree->setEditTriggers(QAbstractItemView::NoEditTriggers);
     m_tree->setExpandsOnDoubleClick(false);
@@ -97,9 +98,6 @@ QWidget *ProgrammePanel::buildToolRow()
     row->setContentsMargins(6, 4, 6, 4);
     row->setSpacing(2);
     m_add->setObjectName(QStringLiteral("AddButton"));
-    m_add->setPopupMode(QToolButton::InstantPopup);
-    m_add->setAutoRaise(true);
-    m_add->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     auto *menu = new QMenu(m_add);
     menu->addActions({m_actions->addItem(), m_actions->addFrame(), m_actions->addScreen()});
     m_add->setMenu(menu);

@@ -4,7 +4,7 @@
 
 class LNode;
 class QLabel;
-class QToolButton;
+class QPushButton;
 class QTreeView;
 
 namespace workbench {
@@ -47,7 +47,7 @@ private:
     StructureActions *m_actions;
     QTreeView *m_tree;
     QLabel *m_hint;
-    QToolButton *m_add;
+    QPushButton *m_add;
 };
 
 } // namespace workbench

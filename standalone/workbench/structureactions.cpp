@@ -12,6 +12,24 @@
 
 namespace workbench {
 
+namespace {
+
+/** On a screen its first frame without an item, which waits for one; else @p place itself. */
+LNode *emptyFrameOf(LNode *place)
+{
+    if (qobject_cast<LScreenNode *>(place) != nullptr) {
+        const QList<LNode *> frames = place->ChildNodes();
+        for (LNode *frame : frames) {
+            if (frame->ChildNodes().isEmpty()) {
+                return frame;
+            }
+        }
+    }
+    return place;
+}
+
+} // namespace
+
 StructureActions::StructureActions(ProgrammeDocument *document, QObject *parent)
     : QObject(parent)
     , m_document(document)
@@ -99,7 +117,7 @@ void StructureActions::runAddItem()
         const QList<LNode *> screens = m_document->controller()->ChildNodes();
         place = screens.isEmpty() ? m_document->addScreen() : screens.constFirst();
     }
-    LNode *made = place != nullptr ? m_document->addItem(place) : nullptr;
+    LNode *made = place != nullptr ? m_document->addItem(emptyFrameOf(place)) : nullptr;
     if (made != nullptr) {
         emit nodeMade(made);
     }

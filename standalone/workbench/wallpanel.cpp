@@ -31,8 +31,8 @@ QToolButton *flatButton(const QString &name, QWidget *parent)
 bool movesThings(const QString &key)
 {
     static const QSet<QString> keys{QStringLiteral("Name"), QStringLiteral("Width"),
-                                    QStringLiteral("Height"), QStringLiteral("Left"),
-                                    QStringLiteral("Top")};
+                                    QStringLiteral("Height"), QStringLiteral("X"),
+                                    QStringLiteral("Y")};
     return keys.contains(key);
 }
 

@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QFontInfo>
 #include <QImage>
+#include <QPainter>
 #include <QStyleOption>
 #include <QWidget>
 
@@ -12,6 +13,7 @@ namespace {
 
 constexpr int UsualDpi = 96;
 constexpr int MostFontsKept = 64;
+constexpr int DarkBelow = 128;
 
 /** The font that the option's texts are drawn with, as far as the option tells. */
 QFont fontOf(const QStyleOption *option, const QWidget *widget)
@@ -26,6 +28,22 @@ QFont fontOf(const QStyleOption *option, const QWidget *widget)
         return item->font;
     }
     return widget != nullptr ? widget->font() : QApplication::font();
+}
+
+/** Fusion outlines an indicator darker than the window, which nobody sees on a dark one. */
+void drawIndicatorOutline(QPainter *painter, const QStyleOption &option, bool isRound)
+{
+    painter->save();
+    painter->setRenderHint(QPainter::Antialiasing);
+    painter->setBrush(Qt::NoBrush);
+    painter->setPen(option.palette.color(QPalette::Light).lighter(150));
+    const QRectF outline = QRectF(option.rect).adjusted(0.5, 0.5, -0.5, -0.5);
+    if (isRound) {
+        painter->drawEllipse(outline.adjusted(0.5, 0.5, -0.5, -0.5));
+    } else {
+        painter->drawRoundedRect(outline, 1, 1);
+    }
+    painter->restore();
 }
 
 } // namespace
@@ -85,6 +103,11 @@ void WorkbenchStyle::drawPrimitive(PrimitiveElement element, const QStyleOption 
 {
     const OptionAt96 lent(this, option, widget);
     QProxyStyle::drawPrimitive(element, option, painter, widget);
+    const bool isIndicator = element == PE_IndicatorCheckBox || element == PE_IndicatorRadioButton;
+    if (isIndicator && option != nullptr &&
+        option->palette.color(QPalette::Window).lightness() < DarkBelow) {
+        drawIndicatorOutline(painter, *option, element == PE_IndicatorRadioButton);
+    }
 }
 
 void WorkbenchStyle::drawControl(ControlElement element, const QStyleOption *option,
