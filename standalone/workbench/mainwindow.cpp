@@ -1,7 +1,7 @@
 #include "mainwindow.h"
 
 #include "autosave.h"
-#include "itemeditor.h"
+#include "editorpane.h"
 #include "itempages.h"
 #include "lappconfig.h"
 #include "layoutpanel.h"
@@ -77,12 +77,12 @@ void MainWindow::buildCentre(const LoadedPlugin &plugin)
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(0);
     m_notices = new NoticeArea(centre);
-    m_editor = new ItemEditor(m_document, m_pages, plugin, centre);
+    m_editor = new EditorPane(m_document, m_pages, plugin, centre);
     column->addWidget(m_notices);
     column->addWidget(m_editor, 1);
     setCentralWidget(centre);
-    connect(m_editor, &ItemEditor::addItemWanted, this, &MainWindow::addItemHere);
-    connect(m_editor, &ItemEditor::leaveWanted, this, [this] { m_programme->focusTree(); });
+    connect(m_editor, &EditorPane::addItemWanted, this, &MainWindow::addItemHere);
+    connect(m_editor, &EditorPane::leaveWanted, this, [this] { m_programme->focusTree(); });
 }
 
 void MainWindow::buildStatusBar()

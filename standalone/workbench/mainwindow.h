@@ -23,7 +23,7 @@ class QMenu;
 namespace workbench {
 
 class Autosave;
-class ItemEditor;
+class EditorPane;
 class ItemPages;
 class LayoutPanel;
 class NoticeArea;
@@ -145,7 +145,7 @@ private:
     FontFolder::Result m_fonts;
 
     NoticeArea *m_notices;
-    ItemEditor *m_editor;
+    EditorPane *m_editor;
     ProgrammePanel *m_programme;
     LayoutPanel *m_layout;
     WallPanel *m_wall;

@@ -1,4 +1,4 @@
-#include "itemeditor.h"
+#include "editorpane.h"
 #include "layoutpanel.h"
 #include "ltexteffectnode.h"
 #include "mainwindow.h"

@@ -1,4 +1,4 @@
-#include "itemeditor.h"
+#include "editorpane.h"
 #include "layoutpanel.h"
 #include "lcontrollernode.h"
 #include "ltexteffectnode.h"

@@ -1,5 +1,5 @@
+#include "editorpane.h"
 #include "inodeclient.h"
-#include "itemeditor.h"
 #include "journal.h"
 #include "lcontrollernode.h"
 #include "lframenode.h"
@@ -209,7 +209,7 @@ void TestMainWindow::opensAndSelects()
 void TestMainWindow::bindsTheFirstItemBelow()
 {
     open(demo());
-    auto *editor = m_window->findChild<ItemEditor *>("ItemEditor");
+    auto *editor = m_window->findChild<EditorPane *>("EditorPane");
     m_window->selectNode(node({0, 1}));
     QCOMPARE(editor->node(), node({0, 1, 0}));
     const int inits = count("inits");
@@ -289,7 +289,7 @@ void TestMainWindow::leavesNoUndoKeyToTheView()
 void TestMainWindow::addsAndRemoves()
 {
     open(demo());
-    auto *editor = m_window->findChild<ItemEditor *>("ItemEditor");
+    auto *editor = m_window->findChild<EditorPane *>("EditorPane");
     auto *panel = m_window->findChild<ProgrammePanel *>("ProgrammePanel");
     action("AddItem")->trigger();
     QCOMPARE(node({0, 0})->ChildNodes().size(), 3);

@@ -3,7 +3,6 @@
 #include "journalwriter.h"
 #include "programmedocument.h"
 
-#include <QCryptographicHash>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -23,21 +22,24 @@ QString moveToFreeName(const QString &file, const QString &folder, const QString
     for (int attempt = 1; attempt <= MostAttempts; ++attempt) {
         const QString name = folder + QLatin1Char('/') + journalName(original, attempt);
         // Renaming never replaces a file, so that of two processes one gets the name.
-        if (name == file || QFile::rename(file, name)) {
+        if (QFile::rename(file, name)) {
             return name;
-        }
-        if (!QFileInfo::exists(file)) {
-            break;
         }
     }
     return {};
 }
 
+/** A name of this process alone for a journal until it has its own. */
+QString newName(const QString &folder)
+{
+    return QStringLiteral("%1/.new-%2.autosave").arg(folder).arg(thisProcess().id);
+}
+
 QString putInto(const QString &folder, const QString &original, const QByteArray &bytes)
 {
-    const QString name = QStringLiteral("%1/.new-%2.autosave").arg(folder).arg(thisProcess().id);
+    const QString name = newName(folder);
     QFile file(name);
-    if (!file.open(QIODevice::WriteOnly)) {
+    if (!file.open(QIODevice::WriteOnly | QIODevice::NewOnly)) {
         return {};
     }
     const bool isWritten = file.write(bytes) == bytes.size() && file.flush();
@@ -66,7 +68,7 @@ Autosave::Autosave(ProgrammeDocument *document, QObject *parent)
     connect(document, &ProgrammeDocument::replaced, this, &Autosave::rememberOriginal);
     connect(document, &ProgrammeDocument::saved, this, &Autosave::rememberOriginal);
     connect(m_writer.get(), &JournalWriter::failed, this, [this](const QString &reason) {
-        m_writtenHash.clear();
+        m_written.clear();
         emit failed(reason);
     });
     rememberOriginal();
@@ -98,25 +100,25 @@ void Autosave::write()
         return;
     }
     const QByteArray programme = m_document->contents();
-    const QByteArray hash = QCryptographicHash::hash(programme, QCryptographicHash::Sha1);
-    if (hash == m_writtenHash) {
+    if (programme == m_written) {
         return;
     }
     m_head.saved = QDateTime::currentDateTimeUtc();
-    const QByteArray bytes = writeJournal(m_head, programme);
     if (m_journal.isEmpty()) {
-        m_journal = claim(bytes);
+        m_journal = claim(programme);
     }
     if (m_journal.isEmpty()) {
         emit failed(tr("no folder for it can be written"));
         return;
     }
-    m_writtenHash = hash;
-    m_writer->write(m_journal, bytes);
+    // The claim, too, is written again: only this way it is sure to outlast the machine.
+    m_written = programme;
+    m_writer->write(m_journal, m_head, programme);
 }
 
-QString Autosave::claim(const QByteArray &bytes)
+QString Autosave::claim(const QByteArray &programme)
 {
+    const QByteArray bytes = writeJournal(m_head, programme);
     const QString &original = m_head.original;
     if (!original.isEmpty()) {
         const QString beside = putInto(QFileInfo(original).absolutePath(), original, bytes);
@@ -131,7 +133,7 @@ QString Autosave::claim(const QByteArray &bytes)
 void Autosave::drop()
 {
     m_timer.stop();
-    m_writtenHash.clear();
+    m_written.clear();
     if (!m_journal.isEmpty()) {
         m_writer->remove(m_journal);
         m_journal.clear();
@@ -149,14 +151,16 @@ bool Autosave::adopt(const QString &journal)
     if (!m_document) {
         return false;
     }
-    m_writer->wait();
-    const QString own =
-        moveToFreeName(journal, QFileInfo(journal).absolutePath(), m_document->fileName());
-    if (own.isEmpty()) {
+    // Of two processes that want it only one finds the file to be renamed.
+    const QString folder = QFileInfo(journal).absolutePath();
+    const QString taken = newName(folder);
+    if (!QFile::rename(journal, taken)) {
         return false;
     }
     drop();
-    m_journal = own;
+    m_writer->wait();
+    const QString own = moveToFreeName(taken, folder, m_document->fileName());
+    m_journal = own.isEmpty() ? taken : own;
     flush();
     return true;
 }

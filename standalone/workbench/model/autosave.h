@@ -53,13 +53,13 @@ private:
     void write();
     void drop();
     /** Puts a first journal where there is none of another process; empty when that failed. */
-    QString claim(const QByteArray &bytes);
+    QString claim(const QByteArray &programme);
 
     const QPointer<ProgrammeDocument> m_document;
     QTimer m_timer;
     JournalHead m_head;
     QString m_journal;
-    QByteArray m_writtenHash;
+    QByteArray m_written; ///< The programme in the journal.
     std::unique_ptr<JournalWriter> m_writer;
 };
 

@@ -30,15 +30,6 @@ QVariantMap attributesOf(const LNode *node)
     return attributes;
 }
 
-void store(QVariantMap *attributes, const QString &key, const QVariant &value)
-{
-    if (value.isValid()) {
-        attributes->insert(key, value);
-    } else {
-        attributes->remove(key);
-    }
-}
-
 } // namespace
 
 ChangeRecorder::ChangeRecorder(TreeWatch *tree, QUndoStack *history)
@@ -77,7 +68,7 @@ void ChangeRecorder::onWatched(LNode *node)
 void ChangeRecorder::onAttributeChanged(LNode *node, const QString &key)
 {
     if (isStepping()) {
-        store(&m_known[node].attributes, key, node->Attribute(key));
+        storeAttribute(&m_known[node].attributes, key, node->Attribute(key));
         return;
     }
     if (!m_dirty.contains(node)) {
@@ -99,12 +90,13 @@ void ChangeRecorder::attach(LTextEffectNode *node, QTextEdit *view)
         return;
     }
     for (const QString &key : loaded) {
-        store(&m_known[node].attributes, key, node->Attribute(key));
+        storeAttribute(&m_known[node].attributes, key, node->Attribute(key));
     }
     m_node = node;
     m_view = view;
     ++m_session;
-    connect(view->document(), &QTextDocument::undoCommandAdded, this, [this] {
+    const QTextDocument *const document = view->document();
+    m_commandAdded = connect(document, &QTextDocument::undoCommandAdded, this, [this] {
         if (!isStepping()) {
             ++m_commands;
         }
@@ -119,9 +111,7 @@ void ChangeRecorder::detach()
 
 void ChangeRecorder::letGo()
 {
-    if (m_view) {
-        m_view->document()->disconnect(this);
-    }
+    disconnect(m_commandAdded);
     m_node = nullptr;
     m_view = nullptr;
     m_commands = 0;
@@ -174,21 +164,33 @@ void ChangeRecorder::collect()
 bool ChangeRecorder::change(LNode *node, const QVariantMap &values, const QString &name)
 {
     settle();
+    bool isNews = false;
+    bool isText = false;
+    for (auto it = values.cbegin(); it != values.cend(); ++it) {
+        isNews = isNews || !readsTheSame(it.key(), node->Attribute(it.key()), it.value());
+        isText = isText || isTextKey(it.key());
+    }
     const QPointer<LNode> guard(node);
-    node->SetAttributes(values);
-    if (!guard) {
+    if (isNews) {
+        node->SetAttributes(values);
+    }
+    if (!isNews || !guard) {
         return false;
     }
     const QSet<QString> keys = m_dirty.take(node);
     m_dirtyOrder.removeAll(node);
     auto step = makeStep(node, keys, Own);
-    if (step) {
-        step->setText(name);
-        m_history->push(step.release());
-        emit recorded();
-        return true;
+    if (!step) {
+        return false; // whoever was told set it back
     }
-    return false;
+    if (isText) {
+        touch(node, Reload);
+        letGoOf(node);
+    }
+    step->setText(name);
+    m_history->push(step.release());
+    emit recorded();
+    return true;
 }
 
 bool ChangeRecorder::isEdited(const LNode *node) const
@@ -213,8 +215,11 @@ bool ChangeRecorder::joinsLastStep(LNode *node) const
 {
     const int last = m_history->index() - 1;
     const auto text = m_known.value(node).text;
-    if (last < 0 || m_history->isClean() || !text || node != m_node) {
+    if (last < 0 || m_history->isClean() || !text || node != m_node || !m_view) {
         return false;
+    }
+    if (m_view->document()->isRedoAvailable()) {
+        return false; // the view was undone or redone by itself
     }
     const auto *step = dynamic_cast<const NodeStep *>(m_history->command(last));
     return step && step->takesText(node, text, m_session);
@@ -229,7 +234,7 @@ ChangeRecorder::News ChangeRecorder::takeNews(LNode *node, const QSet<QString> &
     for (const QString &key : keys) {
         const QVariant before = attributes.value(key);
         const QVariant after = node->Attribute(key);
-        store(&attributes, key, after);
+        storeAttribute(&attributes, key, after);
         const bool isNews = !readsTheSame(key, before, after);
         if (!isTextKey(key)) {
             news.before.insert(key, before);
@@ -237,6 +242,7 @@ ChangeRecorder::News ChangeRecorder::takeNews(LNode *node, const QSet<QString> &
             news.isOther = news.isOther || isNews;
         } else if (isNews) {
             news.isText = true;
+            news.isRawText = news.isRawText || key == RawHtmlKey;
             // An editor unbinds when it stores a text without a table.
             const bool isUnbound = hasNewText && readsTheSame(key, {}, after);
             news.isBinding = news.isBinding || (isBindingKey(key) && !isUnbound);
@@ -249,7 +255,7 @@ std::unique_ptr<NodeStep> ChangeRecorder::makeStep(LNode *node, const QSet<QStri
                                                    Author author)
 {
     const News news = takeNews(node, keys);
-    const bool isEditedText = news.isText && (author == Own || isEdited(node));
+    const bool isEditedText = author == Own ? news.isText : news.isRawText && isEdited(node);
     const bool isMore = news.isBinding || news.isOther;
     if (!m_tree->contains(node) || (!isEditedText && !isMore)) {
         return nullptr;
@@ -282,85 +288,6 @@ std::unique_ptr<NodeStep> ChangeRecorder::makeStep(LNode *node, const News &news
     }
     const QString text = change.isTyping ? textStepName() : stepNameOf(named);
     return std::make_unique<NodeStep>(this, node, std::move(change), text);
-}
-
-void ChangeRecorder::write(LNode *node, const QVariantMap &values, bool isReload)
-{
-    if (isReload) {
-        bool isShown = false;
-        for (const LNode *above = m_node; above && !isShown; above = above->ParentNode()) {
-            isShown = above == node;
-        }
-        if (isShown) {
-            touch(m_node, Reload);
-            letGo();
-        }
-        touch(node, Reload);
-    }
-    node->SetAttributes(values);
-}
-
-void ChangeRecorder::touch(LNode *node, Touch touch)
-{
-    for (auto &touched : m_touched) {
-        if (touched.first == node) {
-            touched.second = qMax(touched.second, touch);
-            return;
-        }
-    }
-    m_touched.append({node, touch});
-}
-
-QVector<QPair<QPointer<LNode>, ChangeRecorder::Touch>> ChangeRecorder::takeTouched()
-{
-    return std::exchange(m_touched, {});
-}
-
-void ChangeRecorder::leaveText(LNode *node)
-{
-    if (node == m_node) {
-        deliverQueued();
-    }
-    // Attributes that wait for the turn's end are left waiting; the text is this state's.
-    Known &known = m_known[node];
-    const QVariantMap now = attributesOf(node);
-    const QSet<QString> waiting = m_dirty.value(node);
-    for (const QString &key : waiting) {
-        if (isTextKey(key)) {
-            store(&known.attributes, key, now.value(key));
-            m_dirty[node].remove(key);
-        }
-    }
-    textOf(node)->keep(now);
-}
-
-void ChangeRecorder::enterText(LNode *node, const std::shared_ptr<TextState> &state)
-{
-    m_known[node].text = state;
-}
-
-bool ChangeRecorder::stepInView(LNode *node, quint64 session, int commands, bool isUndo,
-                                const TextState &target)
-{
-    if (node != m_node || session != m_session || !m_view || commands == 0) {
-        return false;
-    }
-    const QPointer<LNode> guard(node);
-    for (int i = 0; i < commands && m_view; ++i) {
-        const QTextDocument *const document = m_view->document();
-        if (isUndo ? !document->isUndoAvailable() : !document->isRedoAvailable()) {
-            return false;
-        }
-        isUndo ? m_view->undo() : m_view->redo();
-    }
-    deliverQueued();
-    const QVariantMap wanted = target.values();
-    if (!guard || !m_view || node->Attribute(RawHtmlKey) != wanted.value(RawHtmlKey)) {
-        return false;
-    }
-    // The same text; what else differs was derived anew, such as the tokens of placeholders.
-    node->SetAttributes(wanted);
-    return true;
 }
 
 } // namespace workbench

@@ -103,6 +103,8 @@ private:
     void deliverQueued();
     void collect();
     void letGo();
+    /** Ends the attachment to @p node or to what is below it, which must be bound anew. */
+    void letGoOf(LNode *node);
     [[nodiscard]] bool isEdited(const LNode *node) const;
     /** What became of some attributes of a node since the last turn. */
     struct News
@@ -111,6 +113,7 @@ private:
         QVariantMap after;
         QVariantMap textBefore; ///< All attributes.
         bool isText = false;    ///< Whether anything of a kind reads another way than before.
+        bool isRawText = false; ///< The text itself, not only what was derived from it.
         bool isBinding = false;
         bool isOther = false;
     };
@@ -134,6 +137,7 @@ private:
     // The attachment
     QPointer<LTextEffectNode> m_node;
     QPointer<QTextEdit> m_view;
+    QMetaObject::Connection m_commandAdded;
     quint64 m_session = 0; ///< Another one each time; 0 is never one.
     int m_commands = 0; ///< Steps that the view added and that are in no step of the history yet.
 };

@@ -88,7 +88,7 @@ void ItemPages::watch(LTextEffectNode *node)
     m_files->clear();
     m_watched = item;
     if (item) {
-        m_items[item].isChanged = true;
+        itemOf(item).isChanged = true;
         m_settle.start();
     }
 }
@@ -102,42 +102,50 @@ void ItemPages::onAttributeChanged(LNode *node, const QString &key)
 
 void ItemPages::invalidateBelow(LNode *node)
 {
-    const QList<LTextEffectNode *> items = m_items.keys();
-    for (LTextEffectNode *item : items) {
-        if (isSelfOrBelow(item, node)) {
-            invalidate(item);
+    bool isWatched = false;
+    for (Item &item : m_items) {
+        if (isSelfOrBelow(item.node, node)) {
+            invalidate(&item);
+            isWatched = isWatched || item.node == m_watched;
         }
+    }
+    if (isWatched) {
+        m_files->clear();
     }
 }
 
-void ItemPages::invalidate(LTextEffectNode *node)
+void ItemPages::invalidate(Item *item)
+{
+    item->renderer.reset();
+    item->generation = 0;
+    item->isChanged = true;
+    m_recent.removeAll(item->node.data());
+    m_settle.start();
+}
+
+ItemPages::Item &ItemPages::itemOf(LTextEffectNode *node)
 {
     Item &item = m_items[node];
-    item.renderer.reset();
-    item.generation = 0;
-    item.isChanged = true;
-    m_recent.removeAll(node);
-    if (node == m_watched) {
-        m_files->clear();
-    }
-    m_settle.start();
+    item.node = node;
+    return item;
 }
 
 void ItemPages::forget(LNode *node)
 {
-    // Only its address is of use, which is the same for the class that it had.
-    auto *const item = static_cast<LTextEffectNode *>(node);
-    m_items.remove(item);
-    m_recent.removeAll(item);
+    m_items.remove(node);
+    m_recent.removeAll(node);
+    if (!m_watched) {
+        m_files->clear();
+    }
 }
 
 void ItemPages::announce()
 {
     QVector<QPointer<LTextEffectNode>> changed;
-    for (auto it = m_items.begin(); it != m_items.end(); ++it) {
-        if (it->isChanged) {
-            it->isChanged = false;
-            changed.append(it.key());
+    for (Item &item : m_items) {
+        if (item.isChanged) {
+            item.isChanged = false;
+            changed.append(item.node);
         }
     }
     if (m_watched && changed.contains(m_watched)) {
@@ -168,7 +176,7 @@ player::ItemRenderer *ItemPages::renderer(LTextEffectNode *node)
     if (!m_document->tree()->contains(node)) {
         return nullptr;
     }
-    Item &item = m_items[node];
+    Item &item = itemOf(node);
     if (!item.renderer) {
         item.renderer = std::make_shared<player::ItemRenderer>(node, placeOf(node));
         if (item.generation == 0) {

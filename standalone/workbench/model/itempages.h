@@ -59,6 +59,7 @@ signals:
 private:
     struct Item
     {
+        QPointer<LTextEffectNode> node;
         std::shared_ptr<player::ItemRenderer> renderer; ///< Null when it must be made.
         quint64 generation = 0;                         ///< Another one for other pages.
         bool isChanged = false;                         ///< pagesChanged() is due.
@@ -66,15 +67,16 @@ private:
 
     void onAttributeChanged(LNode *node, const QString &key);
     void invalidateBelow(LNode *node);
-    void invalidate(LTextEffectNode *node);
+    void invalidate(Item *item);
+    Item &itemOf(LTextEffectNode *node);
     void forget(LNode *node);
     void announce();
     void publish();
     player::ItemRenderer *renderer(LTextEffectNode *node);
 
     ProgrammeDocument *const m_document;
-    QHash<LTextEffectNode *, Item> m_items;
-    QVector<LTextEffectNode *> m_recent;         ///< With a renderer, the one used last at the end.
+    QHash<const LNode *, Item> m_items;
+    QVector<const LNode *> m_recent;             ///< With a renderer, the one used last at the end.
     QCache<QPair<quint64, int>, QImage> m_pages; ///< By generation and index; the cost is bytes.
     QPointer<LTextEffectNode> m_watched;
     std::unique_ptr<PageFiles> m_files;

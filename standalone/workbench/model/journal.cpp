@@ -22,6 +22,8 @@ const QString HashKey = QStringLiteral("originalHash");
 const QString SavedKey = QStringLiteral("saved");
 const QString ProcessKey = QStringLiteral("process");
 const QString StartKey = QStringLiteral("start");
+const QString BootKey = QStringLiteral("boot");
+const QString MachineKey = QStringLiteral("machine");
 constexpr int Version = 1;
 constexpr qint64 LargestJournal = 300LL * 1024 * 1024;
 
@@ -51,6 +53,8 @@ JournalHead headOf(const QJsonObject &object)
     head.saved = QDateTime::fromString(object.value(SavedKey).toString(), Qt::ISODateWithMs);
     head.process.id = static_cast<qint64>(object.value(ProcessKey).toDouble());
     head.process.start = object.value(StartKey).toString().toULongLong();
+    head.process.boot = object.value(BootKey).toString().toLatin1();
+    head.process.machine = object.value(MachineKey).toString().toLatin1();
     return head;
 }
 
@@ -78,6 +82,8 @@ QByteArray writeJournal(const JournalHead &head, const QByteArray &programme)
         {SavedKey, head.saved.toString(Qt::ISODateWithMs)},
         {ProcessKey, head.process.id},
         {StartKey, QString::number(head.process.start)},
+        {BootKey, QString::fromLatin1(head.process.boot)},
+        {MachineKey, QString::fromLatin1(head.process.machine)},
     };
     const QByteArray rest = QJsonDocument(object).toJson(QJsonDocument::Compact) + '\n' + programme;
     return checksum(rest) + '\n' + rest;

@@ -23,14 +23,15 @@ JournalWriter::~JournalWriter()
     m_thread.join();
 }
 
-void JournalWriter::write(const QString &fileName, const QByteArray &bytes)
+void JournalWriter::write(const QString &fileName, const JournalHead &head,
+                          const QByteArray &programme)
 {
-    put({fileName, bytes});
+    put({fileName, head, programme});
 }
 
 void JournalWriter::remove(const QString &fileName)
 {
-    put({fileName, std::nullopt});
+    put({fileName, {}, std::nullopt});
 }
 
 void JournalWriter::put(Job job)
@@ -73,11 +74,11 @@ void JournalWriter::run()
 
 void JournalWriter::perform(const Job &job)
 {
-    if (!job.bytes) {
+    if (!job.programme) {
         QFile::remove(job.fileName);
         return;
     }
-    const QString reason = replaceFile(job.fileName, *job.bytes);
+    const QString reason = replaceFile(job.fileName, writeJournal(job.head, *job.programme));
     if (!reason.isEmpty()) {
         QMetaObject::invokeMethod(
             this, [this, reason] { emit failed(reason); }, Qt::QueuedConnection);

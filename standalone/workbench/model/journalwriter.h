@@ -1,5 +1,7 @@
 #pragma once
 
+#include "journal.h"
+
 #include <QByteArray>
 #include <QObject>
 #include <QString>
@@ -13,8 +15,8 @@
 namespace workbench {
 
 /**
- * Writes and removes files in a thread of its own, in order; a write that was overtaken by another
- * one is left out. Its destructor finishes what is due.
+ * Writes and removes journals in a thread of its own, in order; a write that was overtaken by
+ * another one is left out. Its destructor finishes what is due.
  */
 class JournalWriter : public QObject
 {
@@ -24,8 +26,8 @@ public:
     explicit JournalWriter(QObject *parent = nullptr);
     ~JournalWriter() override;
 
-    /** Puts @p bytes under @p fileName, which is this process's own. */
-    void write(const QString &fileName, const QByteArray &bytes);
+    /** Puts a journal under @p fileName, which is this process's own. */
+    void write(const QString &fileName, const JournalHead &head, const QByteArray &programme);
     /** Removes @p fileName, and leaves out a write of it that is still due. */
     void remove(const QString &fileName);
     /** Waits until nothing is due. */
@@ -39,7 +41,8 @@ private:
     struct Job
     {
         QString fileName;
-        std::optional<QByteArray> bytes; ///< None: remove.
+        JournalHead head;
+        std::optional<QByteArray> programme; ///< None: remove.
     };
 
     void put(Job job);

@@ -27,7 +27,7 @@ void removeStaleFolders()
     for (const QString &folder : folders) {
         bool isNumber = false;
         const qint64 id = folder.toLongLong(&isNumber);
-        if (isNumber && !isRunning({id, 0})) {
+        if (isNumber && !isRunning({id, 0, {}, {}})) {
             QDir(allFolders() + QLatin1Char('/') + folder).removeRecursively();
         }
     }

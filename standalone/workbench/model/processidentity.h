@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QtGlobal>
+#include <QByteArray>
 
 namespace workbench {
 
@@ -8,11 +8,16 @@ namespace workbench {
 struct ProcessIdentity
 {
     qint64 id = 0;
-    quint64 start = 0; ///< When it was started, in ticks since the machine was; 0 when unknown.
+    quint64 start = 0;  ///< When it was started, in ticks since the machine was; 0 when unknown.
+    QByteArray boot;    ///< Another one each time that the machine is started; empty when unknown.
+    QByteArray machine; ///< Of the machine that it runs on; empty when unknown.
 };
 
 [[nodiscard]] ProcessIdentity thisProcess();
-/** Whether @p process still runs; when its start is unknown, whether its number is in use. */
+/**
+ * Whether @p process still runs, as far as what is known of it tells. One of another machine, which
+ * may share our disk, is taken to run.
+ */
 [[nodiscard]] bool isRunning(const ProcessIdentity &process);
 
 } // namespace workbench

@@ -118,7 +118,7 @@ void ProgrammeDocument::install(std::unique_ptr<LControllerNode> controller,
     m_recorder->reset();
     m_tree->setRoot(nullptr);
     m_history->clear();
-    m_controller.swap(controller);
+    m_controller = std::move(controller);
     m_tree->setRoot(m_controller.get());
     m_fileName = fileName;
     emit replaced();

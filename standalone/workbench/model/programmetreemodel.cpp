@@ -102,9 +102,17 @@ void ProgrammeTreeModel::onAttributeChanged(LNode *node, const QString &key)
 {
     static const QStringList shown{QStringLiteral("Name"), QStringLiteral("Width"),
                                    QStringLiteral("Height")};
-    const QModelIndex changed = indexOf(node);
-    if (changed.isValid() && shown.contains(key)) {
-        emit dataChanged(changed, changed);
+    const Entry *const entry = m_entries.value(node);
+    if (entry && shown.contains(key)) {
+        announce(*entry);
+    }
+}
+
+void ProgrammeTreeModel::announce(const Entry &entry)
+{
+    emit dataChanged(indexOf(&entry), indexOf(&entry));
+    for (const auto &child : entry.children) {
+        announce(*child); // which may have its size from here
     }
 }
 
@@ -215,7 +223,7 @@ QVariant ProgrammeTreeModel::data(const QModelIndex &index, int role) const
     case ProblemRole:
         return entry->problem.isEmpty() ? QVariant() : QVariant(entry->problem);
     case NodeRole:
-        return QVariant::fromValue(reinterpret_cast<quintptr>(entry->node));
+        return QVariant::fromValue(entry->node);
     case KindRole:
         return entry->node->TypeText();
     case SizeRole:

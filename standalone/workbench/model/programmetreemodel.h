@@ -23,7 +23,7 @@ class ProgrammeTreeModel : public QAbstractItemModel
 
 public:
     enum Role {
-        NodeRole = Qt::UserRole, ///< LNode *, as a quintptr
+        NodeRole = Qt::UserRole, ///< LNode *
         KindRole,                ///< The node's TypeText()
         SizeRole,                ///< QSize in pixels; invalid when unknown
         ProblemRole              ///< What setProblem() was given; the tool tip, too
@@ -75,6 +75,7 @@ private:
 
     std::unique_ptr<Entry> makeEntry(LNode *node, Entry *parent);
     void forget(const Entry &entry);
+    void announce(const Entry &entry);
     void rebuild(bool isEmpty);
     void onInserted(LNode *parent, LNode *child, int index);
     void onRemoved(LNode *parent, int index);

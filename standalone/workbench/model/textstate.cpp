@@ -70,6 +70,15 @@ const QVariantMap &defaults()
 
 } // namespace
 
+void storeAttribute(QVariantMap *attributes, const QString &key, const QVariant &value)
+{
+    if (value.isValid()) {
+        attributes->insert(key, value);
+    } else {
+        attributes->remove(key);
+    }
+}
+
 bool isTextKey(const QString &key)
 {
     return textKeys().contains(key);

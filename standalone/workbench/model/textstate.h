@@ -23,6 +23,9 @@ private:
     QByteArray m_compressed;
 };
 
+/** Puts a value into a map of attributes; an invalid one removes what is there. */
+void storeAttribute(QVariantMap *attributes, const QString &key, const QVariant &value);
+
 /** Whether a TextState holds the attribute @p key. */
 [[nodiscard]] bool isTextKey(const QString &key);
 /** Whether it is a text key that the user sets without editing the text: the table's binding. */

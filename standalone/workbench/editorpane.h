@@ -24,14 +24,14 @@ class ProgrammeDocument;
  * The plug-in owns its widgets; they are only lent to this window, are never deleted here, and are
  * given back before this is destroyed.
  */
-class ItemEditor : public QWidget
+class EditorPane : public QWidget
 {
     Q_OBJECT
 
 public:
-    ItemEditor(ProgrammeDocument *document, ItemPages *pages, const LoadedPlugin &plugin,
+    EditorPane(ProgrammeDocument *document, ItemPages *pages, const LoadedPlugin &plugin,
                QWidget *parent = nullptr);
-    ~ItemEditor() override;
+    ~EditorPane() override;
 
     /** Binds the plug-in to an item; null lets go of the one before. */
     void bind(LTextEffectNode *node);

@@ -1,4 +1,4 @@
-#include "itemeditor.h"
+#include "editorpane.h"
 
 #include "inodeclient.h"
 #include "itempages.h"
@@ -16,7 +16,7 @@
 
 namespace workbench {
 
-ItemEditor::ItemEditor(ProgrammeDocument *document, ItemPages *pages, const LoadedPlugin &plugin,
+EditorPane::EditorPane(ProgrammeDocument *document, ItemPages *pages, const LoadedPlugin &plugin,
                        QWidget *parent)
     : QWidget(parent)
     , m_document(document)
@@ -26,7 +26,7 @@ ItemEditor::ItemEditor(ProgrammeDocument *document, ItemPages *pages, const Load
     , m_attributesArea(new QScrollArea)
     , m_noAttributes(new QLabel)
 {
-    setObjectName(QStringLiteral("ItemEditor"));
+    setObjectName(QStringLiteral("EditorPane"));
     m_empty = buildEmptyPage();
     m_fault = buildFaultPage();
     m_stack->addWidget(m_empty);
@@ -44,19 +44,19 @@ ItemEditor::ItemEditor(ProgrammeDocument *document, ItemPages *pages, const Load
         if (m_client) {
             m_stack->addWidget(m_client);
         }
-        connect(m_plugin.client, &Lum::INodeClient::editFinish, this, &ItemEditor::leaveWanted);
+        connect(m_plugin.client, &Lum::INodeClient::editFinish, this, &EditorPane::leaveWanted);
     }
     m_stack->setCurrentWidget(hasPlugin() ? m_empty : m_fault);
     retranslate();
 }
 
-ItemEditor::~ItemEditor()
+EditorPane::~EditorPane()
 {
     letGo();
     giveBack();
 }
 
-QWidget *ItemEditor::buildEmptyPage()
+QWidget *EditorPane::buildEmptyPage()
 {
     auto *page = new QWidget(this);
     page->setObjectName(QStringLiteral("NoItemPage"));
@@ -69,13 +69,13 @@ QWidget *ItemEditor::buildEmptyPage()
     column->addSpacing(10);
     m_addItem = new QPushButton(page);
     m_addItem->setObjectName(QStringLiteral("AddItemButton"));
-    connect(m_addItem, &QPushButton::clicked, this, &ItemEditor::addItemWanted);
+    connect(m_addItem, &QPushButton::clicked, this, &EditorPane::addItemWanted);
     column->addWidget(m_addItem, 0, Qt::AlignHCenter);
     column->addStretch(1);
     return page;
 }
 
-QWidget *ItemEditor::buildFaultPage()
+QWidget *EditorPane::buildFaultPage()
 {
     auto *page = new QWidget(this);
     page->setObjectName(QStringLiteral("PluginFaultPage"));
@@ -91,7 +91,7 @@ QWidget *ItemEditor::buildFaultPage()
     return page;
 }
 
-void ItemEditor::bind(LTextEffectNode *node)
+void EditorPane::bind(LTextEffectNode *node)
 {
     if (node == m_node && node != nullptr) {
         return;
@@ -124,7 +124,7 @@ void ItemEditor::bind(LTextEffectNode *node)
     setUpdatesEnabled(true);
 }
 
-void ItemEditor::rebind()
+void EditorPane::rebind()
 {
     const QPointer<LTextEffectNode> node(m_node);
     const QPointer<QWidget> focused(focusWidget());
@@ -136,7 +136,7 @@ void ItemEditor::rebind()
     }
 }
 
-void ItemEditor::letGo()
+void EditorPane::letGo()
 {
     if (!m_isBound) {
         return;
@@ -155,7 +155,7 @@ void ItemEditor::letGo()
     }
 }
 
-void ItemEditor::showAttributes()
+void EditorPane::showAttributes()
 {
     QWidget *attributes = m_plugin.client->GetAttributesWidget(m_node);
     if (attributes == nullptr || !m_attributesArea) {
@@ -173,7 +173,7 @@ void ItemEditor::showAttributes()
     attributes->show();
 }
 
-void ItemEditor::giveBack()
+void EditorPane::giveBack()
 {
     if (m_attributesArea && m_attributes && m_attributesArea->widget() == m_attributes) {
         m_attributesArea->takeWidget();
@@ -188,19 +188,19 @@ void ItemEditor::giveBack()
     }
 }
 
-QTextEdit *ItemEditor::textView() const
+QTextEdit *EditorPane::textView() const
 {
     return m_client ? m_client->findChild<QTextEdit *>() : nullptr;
 }
 
-void ItemEditor::focusText()
+void EditorPane::focusText()
 {
     if (QTextEdit *view = m_node ? textView() : nullptr) {
         view->setFocus();
     }
 }
 
-bool ItemEditor::eventFilter(QObject *watched, QEvent *event)
+bool EditorPane::eventFilter(QObject *watched, QEvent *event)
 {
     if (event->type() == QEvent::ShortcutOverride || event->type() == QEvent::KeyPress) {
         const auto *key = static_cast<QKeyEvent *>(event);
@@ -215,7 +215,7 @@ bool ItemEditor::eventFilter(QObject *watched, QEvent *event)
     return QWidget::eventFilter(watched, event);
 }
 
-void ItemEditor::changeEvent(QEvent *event)
+void EditorPane::changeEvent(QEvent *event)
 {
     if (event->type() == QEvent::LanguageChange) {
         retranslate();
@@ -223,7 +223,7 @@ void ItemEditor::changeEvent(QEvent *event)
     QWidget::changeEvent(event);
 }
 
-void ItemEditor::retranslate()
+void EditorPane::retranslate()
 {
     m_emptyText->setText(tr("There is no text here yet."));
     m_addItem->setText(tr("Add Text Item"));
