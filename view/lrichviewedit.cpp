@@ -105,12 +105,12 @@ bool LRichViewEdit::event(QEvent *event)
 
 void LRichViewEdit::changeEvent(QEvent *event)
 {
-    if (event->type() == QEvent::FontChange || event->type() == QEvent::ApplicationFontChange) {
-        // The text's default font is the item's and not the widget's.
-        QAbstractScrollArea::changeEvent(event);
-        return;
-    }
+    // The text's default font is the item's, whatever font the widget gets.
+    const QFont font = document()->defaultFont();
     QTextEdit::changeEvent(event);
+    if (document()->defaultFont() != font) {
+        document()->setDefaultFont(font);
+    }
 }
 
 void LRichViewEdit::paintEvent(QPaintEvent *event)
