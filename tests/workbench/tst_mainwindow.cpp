@@ -522,7 +522,9 @@ void TestMainWindow::offersWhatACrashLeft()
     head.originalSize = stamp.size;
     head.originalHash = stamp.hash;
     head.saved = QDateTime::currentDateTime();
-    head.process = {1 << 30, 1};
+    head.process = thisProcess();
+    head.process.id = 1 << 30; // No process has such a number.
+    head.process.start = 1;
     const QString journal =
         write(journalName(original, 1),
               writeJournal(head, QByteArray(Programme).replace("\"First\"", "\"Rescued\"")));
