@@ -51,6 +51,7 @@ private slots:
     void keepsThePluginsWidgets();
     void typesAndUndoes();
     void leavesNoUndoKeyToTheView();
+    void leavesTheFocusWithTheTree();
     void addsAndRemoves();
     void renames();
     void placesAndSizes();
@@ -284,6 +285,25 @@ void TestMainWindow::leavesNoUndoKeyToTheView()
     QTest::keyClick(view(), Qt::Key_Y, Qt::ControlModifier);
     QTest::qWait(20);
     QCOMPARE(view()->toPlainText(), QString("xfirst"));
+}
+
+void TestMainWindow::leavesTheFocusWithTheTree()
+{
+    open(demo());
+    m_window->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+    auto *tree = m_window->findChild<QTreeView *>("ProgrammeTree");
+    tree->setFocus();
+    QTest::keyClick(tree, Qt::Key_Down);
+    QCOMPARE(view()->toPlainText(), QString("second"));
+    QVERIFY(tree->hasFocus());
+    QTest::keyClick(tree, Qt::Key_Delete);
+    QCOMPARE(node({0, 0})->ChildNodes().size(), 1);
+    QVERIFY(tree->hasFocus());
+    QTest::keyClick(tree, Qt::Key_Z, Qt::ControlModifier);
+    QCOMPARE(view()->toPlainText(), QString("second"));
+    emit m_window->wall()->view()->itemActivated(1);
+    QVERIFY(view()->hasFocus());
 }
 
 void TestMainWindow::addsAndRemoves()
