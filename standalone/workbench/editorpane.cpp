@@ -5,6 +5,7 @@
 #include "ltexteffectnode.h"
 #include "programmedocument.h"
 
+#include <QApplication>
 #include <QEvent>
 #include <QKeyEvent>
 #include <QLabel>
@@ -96,6 +97,8 @@ void EditorPane::bind(LTextEffectNode *node)
     if (node == m_node && node != nullptr) {
         return;
     }
+    // The plug-in takes the focus when it is bound; keys meant for the tree would then edit text.
+    const QPointer<QWidget> focused(QApplication::focusWidget());
     setUpdatesEnabled(false);
     letGo();
     m_node = node;
@@ -122,16 +125,19 @@ void EditorPane::bind(LTextEffectNode *node)
     }
     m_pages->watch(m_node);
     setUpdatesEnabled(true);
+    if (focused && focused->isVisible()) {
+        focused->setFocus();
+    }
 }
 
 void EditorPane::rebind()
 {
     const QPointer<LTextEffectNode> node(m_node);
-    const QPointer<QWidget> focused(focusWidget());
-    const bool hadFocus = focused && focused->hasFocus();
+    const QPointer<QWidget> focused(QApplication::focusWidget());
     bind(nullptr);
     bind(node);
-    if (hadFocus && focused) {
+    // Hidden in between, the view has lost the focus that it may have had.
+    if (focused) {
         focused->setFocus();
     }
 }

@@ -164,4 +164,14 @@ int WorkbenchStyle::pixelMetric(PixelMetric metric, const QStyleOption *option,
     return QProxyStyle::pixelMetric(metric, used, widget);
 }
 
+int WorkbenchStyle::styleHint(StyleHint hint, const QStyleOption *option, const QWidget *widget,
+                              QStyleHintReturn *returned) const
+{
+    // Only the standard buttons of dialogs would have pictures, which looks as if they mattered.
+    if (hint == SH_DialogButtonBox_ButtonsHaveIcons) {
+        return 0;
+    }
+    return QProxyStyle::styleHint(hint, option, widget, returned);
+}
+
 } // namespace workbench

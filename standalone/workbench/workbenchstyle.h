@@ -40,6 +40,9 @@ public:
                                          const QWidget *widget = nullptr) const override;
     [[nodiscard]] int pixelMetric(PixelMetric metric, const QStyleOption *option = nullptr,
                                   const QWidget *widget = nullptr) const override;
+    [[nodiscard]] int styleHint(StyleHint hint, const QStyleOption *option = nullptr,
+                                const QWidget *widget = nullptr,
+                                QStyleHintReturn *returned = nullptr) const override;
 
 private:
     class OptionAt96;

@@ -81,6 +81,7 @@ void LTextClient::Init(LNode *node)
     layout()->addWidget(m_attributes);
     m_attributes->show();
     load();
+    m_view->setFocus();
 }
 
 void LTextClient::Finish()

@@ -51,6 +51,7 @@ private slots:
     void keepsThePluginsWidgets();
     void typesAndUndoes();
     void leavesNoUndoKeyToTheView();
+    void leavesTheFocusWithTheTree();
     void addsAndRemoves();
     void renames();
     void placesAndSizes();
@@ -284,6 +285,25 @@ void TestMainWindow::leavesNoUndoKeyToTheView()
     QTest::keyClick(view(), Qt::Key_Y, Qt::ControlModifier);
     QTest::qWait(20);
     QCOMPARE(view()->toPlainText(), QString("xfirst"));
+}
+
+void TestMainWindow::leavesTheFocusWithTheTree()
+{
+    open(demo());
+    m_window->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+    auto *tree = m_window->findChild<QTreeView *>("ProgrammeTree");
+    tree->setFocus();
+    QTest::keyClick(tree, Qt::Key_Down);
+    QCOMPARE(view()->toPlainText(), QString("second"));
+    QVERIFY(tree->hasFocus());
+    QTest::keyClick(tree, Qt::Key_Delete);
+    QCOMPARE(node({0, 0})->ChildNodes().size(), 1);
+    QVERIFY(tree->hasFocus());
+    QTest::keyClick(tree, Qt::Key_Z, Qt::ControlModifier);
+    QCOMPARE(view()->toPlainText(), QString("second"));
+    emit m_window->wall()->view()->itemActivated(1);
+    QVERIFY(view()->hasFocus());
 }
 
 void TestMainWindow::addsAndRemoves()
@@ -522,7 +542,9 @@ void TestMainWindow::offersWhatACrashLeft()
     head.originalSize = stamp.size;
     head.originalHash = stamp.hash;
     head.saved = QDateTime::currentDateTime();
-    head.process = {1 << 30, 1};
+    head.process = thisProcess();
+    head.process.id = 1 << 30; // No process has such a number.
+    head.process.start = 1;
     const QString journal =
         write(journalName(original, 1),
               writeJournal(head, QByteArray(Programme).replace("\"First\"", "\"Rescued\"")));
