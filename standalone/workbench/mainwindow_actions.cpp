@@ -232,7 +232,7 @@ void MainWindow::buildLanguageMenu()
     QMenu *menu = view->addMenu(QString());
     menu->setObjectName(QStringLiteral("LanguageMenu"));
     m_texts.append({menu->menuAction(), [] {
-                        return tr("&Language");
+                        return tr("Lan&guage");
                     }});
     m_languages = new QActionGroup(this);
     const QStringList codes = LTranslation::instance()->AvailableLanguages();
