@@ -13,6 +13,9 @@
 #include <QUndoStack>
 #include <QtTest>
 
+#include <functional>
+#include <sys/stat.h>
+
 using namespace workbench;
 
 class TestProgrammeDocument : public QObject
@@ -113,6 +116,10 @@ void TestProgrammeDocument::openingAndSaving()
     broken.close();
     const ProgrammeError error = document.open(broken.fileName());
     QVERIFY(!error.reason.isEmpty() && !error.remedy.isEmpty() && error.at.line == 2);
+    const QString pipe = folder.filePath(QStringLiteral("pipe"));
+    QCOMPARE(mkfifo(qPrintable(pipe), 0600), 0);
+    QVERIFY(document.open(pipe).isSet());
+    QVERIFY(document.open(folder.filePath(QStringLiteral("none"))).isSet());
     QCOMPARE(document.controller(), before);
 
     const QString demo = QStringLiteral(LCTRLSEX_SOURCE_DIR "/examples/demo.programme.json");
@@ -158,7 +165,9 @@ void TestProgrammeDocument::structureKeepsItsNodes()
     LNode *const second = document.addFrame(screen);
     QVERIFY(!qobject_cast<LFrameNode *>(second)->GetRect().contains(screen->Size().width(), 1));
     QCOMPARE(document.history()->undoText(), QStringLiteral("Add frame"));
+    QSignalSpy left(&document, &ProgrammeDocument::nodeTaken);
     QVERIFY(document.remove(screen));
+    QCOMPARE(left.value(0).value(0).value<LNode *>(), screen);
     QCOMPARE(document.history()->undoText(), QStringLiteral("Remove Screen 2"));
     QVERIFY(item);
     document.undo();
@@ -171,7 +180,9 @@ void TestProgrammeDocument::structureKeepsItsNodes()
     QCOMPARE(screen->ChildNodes().indexOf(copy), 1);
     QCOMPARE(copy->ChildNodes().size(), 1);
     QVERIFY(copy->name() != frame->name());
+    QSignalSpy taken(&document, &ProgrammeDocument::nodeTaken);
     QVERIFY(document.move(copy->ChildNodes().first(), frame, 0));
+    QCOMPARE(taken.size(), 0);
     QCOMPARE(frame->ChildNodes().at(1), item.data());
     document.undo();
     document.undo();
@@ -437,6 +448,22 @@ void TestProgrammeDocument::undoIsRightWhateverTheViewDoes()
     document.undo();
     QCOMPARE(item->GetPlayText(), QString());
 
+    // A step of the view that the history does not know of yet.
+    document.redo();
+    editor.showItem(item);
+    turn();
+    editor.type(QStringLiteral("live"), Qt::blue);
+    turn();
+    editor.type(QStringLiteral("unknown"), Qt::red);
+    document.history()->undo();
+    QCOMPARE(item->GetRawHtmlText(), one);
+    turn();
+    QCOMPARE(editor.view->toPlainText(), QStringLiteral("one"));
+    document.redo();
+    QCOMPARE(item->GetPlayText(), QStringLiteral("oneliveunknown"));
+    document.undo();
+    document.undo();
+
     // The node may be gone from the tree, or for good, while steps of it remain.
     document.redo();
     QVERIFY(document.remove(item->GetFrameNode()));
@@ -618,21 +645,24 @@ void TestProgrammeDocument::randomStepsComeBack()
 void TestProgrammeDocument::undoLimitKeepsNodesAlive()
 {
     ProgrammeDocument document;
-    const QPointer<LNode> removedLater = document.addScreen();
-    const QPointer<LNode> removedEarly = document.addScreen();
-    QVERIFY(document.remove(removedEarly));
-    for (int i = 0; i < 498; ++i) {
+    const QPointer<LNode> first = document.addScreen();
+    const QPointer<LNode> second = document.addScreen();
+    QVERIFY(document.remove(second));
+    for (int i = 0; i < 496; ++i) {
         QVERIFY(document.addScreen());
     }
-    QVERIFY(document.remove(removedLater));
+    QVERIFY(document.remove(first));
+    QVERIFY(second);
     QVERIFY(document.addScreen());
     QCOMPARE(document.history()->count(), 500);
-    QVERIFY(!removedEarly);
-    QVERIFY(removedLater); // the step that added it is gone, the one that removed it is not
+    QVERIFY(first); // the step that added it is gone, the one that removed it is not
+    QVERIFY(document.addScreen());
+    QVERIFY(document.addScreen());
+    QVERIFY(!second); // nobody can bring it back
     while (document.history()->canUndo()) {
         document.undo();
     }
-    QCOMPARE(removedLater->ParentNode(), document.controller());
+    QCOMPARE(first->ParentNode(), document.controller());
 }
 
 QTEST_MAIN(TestProgrammeDocument)

@@ -7,6 +7,7 @@
 #include "programmedocument.h"
 #include "treewatch.h"
 
+#include <QElapsedTimer>
 #include <QSet>
 
 namespace workbench {
@@ -14,6 +15,7 @@ namespace workbench {
 namespace {
 
 constexpr int SettleTime = 250;
+constexpr int LongestSettleTime = 2000;
 constexpr int CacheBytes = 64 * 1024 * 1024;
 // A renderer holds a document that is laid out.
 constexpr int MostRenderers = 8;
@@ -161,7 +163,11 @@ void ItemPages::announce()
 void ItemPages::publish()
 {
     const QPointer<LTextEffectNode> node = m_watched;
+    QElapsedTimer timer;
+    timer.start();
     renderer(node);
+    // Who types a very long text is not stopped at every breath by its being laid out.
+    m_settle.setInterval(qBound(SettleTime, int(timer.elapsed()) * 4, LongestSettleTime));
     const std::shared_ptr<player::ItemRenderer> pages = m_items[node].renderer;
     node->SetPageCount(pages ? pages->pageCount() : 0);
     node->PageChanged();

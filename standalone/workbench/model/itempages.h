@@ -40,8 +40,9 @@ public:
 
     /**
      * @p node is being edited: its page count is told to it, and its page files "DynamicData" are
-     * kept up to date: gone the moment that something changes, there again a little after the last
-     * change. Null watches none; the one watched before has no files any more.
+     * kept up to date: gone the moment that something changes, there again a quarter of a second
+     * after the last change, for texts that take long to lay out two seconds. Null watches none;
+     * the one watched before has no files any more.
      */
     void watch(LTextEffectNode *node);
 

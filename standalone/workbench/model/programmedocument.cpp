@@ -8,6 +8,8 @@
 #include <QFileInfo>
 #include <QUndoStack>
 
+#include <utility>
+
 namespace workbench {
 
 static constexpr int MostSteps = 500;
@@ -28,8 +30,13 @@ ProgrammeDocument::ProgrammeDocument(QObject *parent)
         emit contentsChanged();
     });
     connect(m_recorder.get(), &ChangeRecorder::recorded, this, &ProgrammeDocument::contentsChanged);
-    connect(m_tree.get(), &TreeWatch::childRemoved, this,
-            [this](LNode *, LNode *child) { emit nodeTaken(child); });
+    connect(m_tree.get(), &TreeWatch::childRemoved, this, [this](LNode *, LNode *child) {
+        if (m_recorder->isStepping()) {
+            m_taken.append(child);
+        } else {
+            emit nodeTaken(child);
+        }
+    });
 }
 
 ProgrammeDocument::~ProgrammeDocument()
@@ -82,9 +89,22 @@ void ProgrammeDocument::newProgramme()
     install(newController(), QString());
 }
 
+/** A pipe or a device would be read until somebody else ends it, and the window with it. */
+ReadProgramme ProgrammeDocument::loadFile(const QString &fileName)
+{
+    const QFileInfo info(fileName);
+    if (info.exists() && !info.isFile()) {
+        ReadProgramme read;
+        read.error.reason = tr("this is no regular file");
+        read.error.remedy = tr("name a *.programme.json file");
+        return read;
+    }
+    return loadProgramme(info.absoluteFilePath());
+}
+
 ProgrammeError ProgrammeDocument::open(const QString &fileName)
 {
-    ReadProgramme read = loadProgramme(fileName);
+    ReadProgramme read = loadFile(fileName);
     if (read.controller) {
         install(std::move(read.controller), QFileInfo(fileName).absoluteFilePath());
     }
@@ -93,7 +113,7 @@ ProgrammeError ProgrammeDocument::open(const QString &fileName)
 
 ProgrammeError ProgrammeDocument::openCopy(const QString &fileName)
 {
-    ReadProgramme read = loadProgramme(fileName);
+    ReadProgramme read = loadFile(fileName);
     if (read.controller) {
         install(std::move(read.controller), QString());
     }
@@ -191,6 +211,12 @@ bool ProgrammeDocument::isReady()
 
 void ProgrammeDocument::announceTouched()
 {
+    const QVector<QPointer<LNode>> taken = std::exchange(m_taken, {});
+    for (const QPointer<LNode> &node : taken) {
+        if (node && !m_tree->contains(node)) {
+            emit nodeTaken(node);
+        }
+    }
     const auto touched = m_recorder->takeTouched();
     for (const auto &[node, touch] : touched) {
         auto *const item = qobject_cast<LTextEffectNode *>(node.data());

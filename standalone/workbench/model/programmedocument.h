@@ -3,8 +3,10 @@
 #include "programmefile.h"
 
 #include <QObject>
+#include <QPointer>
 #include <QRect>
 #include <QVariantMap>
+#include <QVector>
 
 #include <memory>
 
@@ -117,7 +119,7 @@ signals:
     void saved();
     /** What would be saved has changed. */
     void contentsChanged();
-    /** @p node left the tree; undo may bring it back. */
+    /** @p node left the tree, and is not merely moved; undo may bring it back. */
     void nodeTaken(LNode *node);
     /**
      * Undo or redo changed what the node stores: if the editor is bound to it, bind it anew. Sent
@@ -128,6 +130,7 @@ signals:
     void revealNode(LNode *node);
 
 private:
+    [[nodiscard]] static ReadProgramme loadFile(const QString &fileName);
     void install(std::unique_ptr<LControllerNode> controller, const QString &fileName);
     /** Collects what changed; false inside an undo or redo, where nothing may be changed. */
     bool isReady();
@@ -140,6 +143,7 @@ private:
     std::unique_ptr<LControllerNode> m_controller;
     std::unique_ptr<QUndoStack> m_history;
     std::unique_ptr<ChangeRecorder> m_recorder;
+    QVector<QPointer<LNode>> m_taken; ///< By the step that is being undone or redone.
     QString m_fileName;
 };
 

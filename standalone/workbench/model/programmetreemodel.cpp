@@ -1,6 +1,7 @@
 #include "programmetreemodel.h"
 
 #include "lnode.h"
+#include "ltranslation.h"
 #include "programmedocument.h"
 #include "treewatch.h"
 
@@ -22,6 +23,11 @@ ProgrammeTreeModel::ProgrammeTreeModel(ProgrammeDocument *document, QObject *par
     connect(tree, &TreeWatch::attributeChanged, this, &ProgrammeTreeModel::onAttributeChanged);
     connect(document, &ProgrammeDocument::aboutToReplace, this, [this] { rebuild(true); });
     connect(document, &ProgrammeDocument::replaced, this, [this] { rebuild(false); });
+    connect(LTranslation::instance(), &LTranslation::LanguageChanged, this, [this] {
+        if (m_root) {
+            announce(*m_root);
+        }
+    });
     rebuild(false);
 }
 
