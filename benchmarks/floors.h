@@ -120,10 +120,11 @@ void besideFloors(benchmark::State &state, const Work &work, const std::vector<F
 }
 
 /** The body of every benchmark's main(): a program without a screen. */
-inline int runBenchmarks(int argc, char **argv)
+template <class Application = QGuiApplication>
+int runBenchmarks(int argc, char **argv)
 {
     qputenv("QT_QPA_PLATFORM", "offscreen");
-    const QGuiApplication application(argc, argv);
+    const Application application(argc, argv);
     benchmark::Initialize(&argc, argv);
     if (benchmark::ReportUnrecognizedArguments(argc, argv)) {
         return 1;

@@ -9,10 +9,11 @@ namespace lctrlsex {
 
 namespace {
 
-QString tr(const char *text)
+/** Texts of this file, under one name for translators. */
+struct DocumentStorageTexts
 {
-    return QCoreApplication::translate("DocumentStorage", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(DocumentStorage)
+};
 
 bool isBlank(QChar c)
 {
@@ -70,13 +71,15 @@ QString Base64Reader::endError(int position) const
 {
     const int rest = m_digits % 4;
     if (rest == 1 || (rest + m_padding) % 4 != 0) {
-        return tr("The stored text is cut off at character %1; restore it from a copy.")
+        return DocumentStorageTexts::tr(
+                   "The stored text is cut off at character %1; restore it from a copy.")
             .arg(position);
     }
     const uint left = rest == 2 ? m_bits & 0xfU : m_bits & 0x3U;
     if (rest != 0 && left != 0) {
-        return tr("The stored text is damaged before its end at character %1; restore it from a "
-                  "copy.")
+        return DocumentStorageTexts::tr(
+                   "The stored text is damaged before its end at character %1; restore it from a "
+                   "copy.")
             .arg(position);
     }
     return {};
@@ -96,14 +99,16 @@ QString Base64Reader::read(const QString &stored)
             continue;
         }
         if (bits < 0) {
-            return tr("The stored text has a character that does not belong there (U+%1) at "
-                      "position %2; restore it from a copy.")
+            return DocumentStorageTexts::tr(
+                       "The stored text has a character that does not belong there (U+%1) at "
+                       "position %2; restore it from a copy.")
                 .arg(c.unicode(), 4, 16, QLatin1Char('0'))
                 .arg(i + 1);
         }
         if (m_padding > 0) {
-            return tr("The stored text goes on behind its end at position %1; restore it from a "
-                      "copy.")
+            return DocumentStorageTexts::tr(
+                       "The stored text goes on behind its end at position %1; restore it from a "
+                       "copy.")
                 .arg(i + 1);
         }
         take(bits);
@@ -163,7 +168,8 @@ DecodedDocument decodeDocument(const QString &stored)
         QTextCodec::codecForName("UTF-8")->toUnicode(bytes.constData(), bytes.size(), &state);
     if (state.invalidChars > 0 || state.remainingChars > 0) {
         result.error =
-            tr("The stored text is not valid UTF-8 from byte %1 on; restore it from a copy.")
+            DocumentStorageTexts::tr(
+                "The stored text is not valid UTF-8 from byte %1 on; restore it from a copy.")
                 .arg(validUtf8Length(bytes) + 1);
         return result;
     }

@@ -3,6 +3,7 @@
 #include "rasterimage.h"
 
 #include <QFile>
+#include <QFont>
 #include <QUrl>
 
 namespace lctrlsex {
@@ -40,6 +41,15 @@ void ItemDocument::loadItem(const QString &html, const TextSettings &settings)
     setHtml(html);
     pointsToPixels(this);
     applyLetterSpacing(this, settings);
+}
+
+void ItemDocument::clearForView(const TextSettings &settings)
+{
+    clear();
+    m_denied.clear();
+    m_images.clear();
+    setDefaultFont(QFont()); // not that of the item before
+    prepareView(this, settings);
 }
 
 QVariant ItemDocument::loadResource(int type, const QUrl &name)

@@ -39,6 +39,9 @@ public:
      */
     void loadItem(const QString &html, const TextSettings &settings);
 
+    /** Empties the document and makes it ready for what a view then loads and edits. */
+    void clearForView(const TextSettings &settings);
+
 protected:
     QVariant loadResource(int type, const QUrl &name) override;
 

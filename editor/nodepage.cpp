@@ -4,40 +4,45 @@
 #include "lappconfig.h"
 #include "lpluginmanager.h"
 #include "ltexteffectnode.h"
+#include "nodecall.h"
 
 namespace lctrlsex {
 
-TextSettings textSettingsOf(const LTextEffectNode *node)
+TextSettings textSettingsOf(const LTextEffectNode *item)
 {
+    const QPointer<const LTextEffectNode> node(item);
     TextSettings settings;
-    if (node != nullptr) {
-        settings.fontFamily = node->GetFontFamily();
-        settings.fontSize = node->GetFontSize();
-        settings.fontSpace = node->GetFontSpace();
-        settings.singleLine = node->GetSingleMode() == 1;
+    if (!node.isNull()) {
+        settings.fontFamily = nodeCall(node, &LTextEffectNode::GetFontFamily);
+        settings.fontSize = nodeCall(node, &LTextEffectNode::GetFontSize);
+        settings.fontSpace = nodeCall(node, &LTextEffectNode::GetFontSpace);
+        settings.singleLine = nodeCall(node, &LTextEffectNode::GetSingleMode) == 1;
     }
     return settings;
 }
 
-PageStyle pageStyleOf(const LTextEffectNode *node)
+PageStyle pageStyleOf(const LTextEffectNode *item)
 {
+    const QPointer<const LTextEffectNode> node(item);
     PageStyle style;
-    if (node != nullptr) {
-        style.size = node->Size();
-        style.isTransparent = node->GetTransBgColor();
-        style.background = LAppConfig::IntToColor(node->GetEditBgColor());
+    if (!node.isNull()) {
+        style.size = nodeCall(node, &LTextEffectNode::Size);
+        style.isTransparent = nodeCall(node, &LTextEffectNode::GetTransBgColor);
+        style.background = LAppConfig::IntToColor(nodeCall(node, &LTextEffectNode::GetEditBgColor));
     }
     return style;
 }
 
-PageFinish pageFinishOf(LTextEffectNode *node)
+PageFinish pageFinishOf(LTextEffectNode *item)
 {
+    const QPointer<LTextEffectNode> node(item);
     PageFinish finish;
-    if (node != nullptr) {
-        finish.isHollow = node->GetUseHollow() != 0;
-        finish.hasStroke = node->GetUseStroke() != 0;
-        finish.strokeColor = LAppConfig::IntToColor(node->GetStrokeColor());
-        finish.contentAlign = node->GetContentAlign();
+    if (!node.isNull()) {
+        finish.isHollow = nodeCall(node, &LTextEffectNode::GetUseHollow) != 0;
+        finish.hasStroke = nodeCall(node, &LTextEffectNode::GetUseStroke) != 0;
+        finish.strokeColor =
+            LAppConfig::IntToColor(nodeCall(node, &LTextEffectNode::GetStrokeColor));
+        finish.contentAlign = nodeCall(node, &LTextEffectNode::GetContentAlign);
         finish.textTransparent = LPluginManager::instance()->TextTransparent(node);
     }
     return finish;

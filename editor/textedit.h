@@ -16,12 +16,14 @@ class LTextEffectNode;
 class QAction;
 class QFrame;
 class QLabel;
+class QPushButton;
 class QToolBar;
 class LRichViewEdit;
 
 namespace lctrlsex {
 class BindingMenus;
 class EditToolBar;
+class FieldValues;
 class FormatCommands;
 class NodePublisher;
 class TableCommands;
@@ -128,7 +130,8 @@ public slots:
     void TextUnderlineFlagChanged(bool flag);
     /** Letter spacing of the whole document; nothing in single-line mode. */
     void TextWordSpacingChanged(int value);
-    /** Line height of the cursor's paragraphs in percent, at least 100; nothing in single-line mode. */
+    /** Line height of the cursor's paragraphs in percent, at least 100; nothing in single-line
+     * mode. */
     void TextLineSpacingChanged(int value);
 
     /** Pushes the document to the node when it changed since the last push. */
@@ -201,7 +204,21 @@ private:
     void InitUISettings();
     void alignmentChanged(Qt::Alignment align);
     void SetStrokeColorButtonImage(const QColor &color);
+
+    QToolBar *makeDataToolBar();
+    QWidget *noticeStrip();
     void showNotice(const QString &text);
+    void setUsable(bool on);
+    void flush();
+    void letGo();
+    void copyTableSettings();
+    void showGround();
+    void redraw();
+    void rebuildTypingFormat();
+    void restoreTypingFormat();
+    [[nodiscard]] QColor askColor(const QString &title, const QColor &current);
+    /** Whether the node taken when the count was @p attachment is still there and attached. */
+    [[nodiscard]] bool isAttached(int attachment) const;
 
     Q_DISABLE_COPY(TextEdit)
 
@@ -212,6 +229,13 @@ private:
     std::unique_ptr<lctrlsex::NodePublisher> m_publisher;
     std::unique_ptr<lctrlsex::TableCommands> m_table;
     std::unique_ptr<lctrlsex::BindingMenus> m_binding;
+    std::unique_ptr<lctrlsex::FieldValues> m_fields;
+    QToolBar *m_dataToolBar = nullptr;
+    QFrame *m_notice = nullptr;
+    QLabel *m_noticeLabel = nullptr;
+    QPushButton *m_noticeButton = nullptr;
+    QColor m_textColor = Qt::white; ///< Of text that is typed where no colour shows.
+    int m_attachment = 0;           ///< Counts Init(), so that a node is told from the one before.
     bool m_singleLine = false;
     bool m_initialising = false;
     bool m_firstShow = true;

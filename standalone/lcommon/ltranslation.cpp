@@ -5,6 +5,7 @@
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QLibraryInfo>
 #include <QRegularExpression>
 #include <QTranslator>
 
@@ -78,9 +79,15 @@ QString LTranslation::Language() const
     return d->language;
 }
 
+/** Ours, and before them those of the toolkit, so that its own dialogs speak the language. */
 static Translators loadCatalogues(const QString &folder, const QString &language)
 {
     Translators loaded;
+    auto toolkit = std::make_unique<QTranslator>();
+    const bool hasToolkit =
+        language != s_sourceLanguage &&
+        toolkit->load(QStringLiteral("qtbase_") + language,
+                      QLibraryInfo::location(QLibraryInfo::TranslationsPath));
     for (const QString &file : catalogues(folder)) {
         if (languageOf(file) != language) {
             continue;
@@ -91,6 +98,9 @@ static Translators loadCatalogues(const QString &folder, const QString &language
         } else {
             qCWarning(lcLcommon) << folder + QLatin1Char('/') + file << "is not a catalogue";
         }
+    }
+    if (hasToolkit && !loaded.empty()) {
+        loaded.insert(loaded.begin(), std::move(toolkit));
     }
     return loaded;
 }

@@ -19,10 +19,11 @@ constexpr int MostOfAKind = 5;
 constexpr int TextShown = 24;
 constexpr int LeastContrast = 12;
 
-QString tr(const char *text)
+/** Texts of this file, under one name for translators. */
+struct ItemCheckTexts
 {
-    return QCoreApplication::translate("ItemCheck", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(ItemCheck)
+};
 
 /** Whether a screen shows no difference between two colours. */
 bool isAlike(const QColor &a, const QColor &b)
@@ -59,8 +60,9 @@ public:
             m_untold += qMax(0, found - MostOfAKind);
         }
         if (m_untold > 0) {
-            warn(tr("text"), tr("there are %1 more of these").arg(m_untold),
-                 tr("mend the ones above first"));
+            warn(ItemCheckTexts::tr("text"),
+                 ItemCheckTexts::tr("there are %1 more of these").arg(m_untold),
+                 ItemCheckTexts::tr("mend the ones above first"));
         }
         return m_problems;
     }
@@ -96,10 +98,11 @@ private:
                              .arg(c, 4, 16, QLatin1Char('0')));
         }
         const int more = missing.size() - names.size();
-        warn(tr("characters"),
-             tr("no installed font shows %1").arg(names.join(QStringLiteral(", "))) +
-                 (more > 0 ? tr(" and %1 more").arg(more) : QString()),
-             tr("install a font that has them or choose other characters"));
+        warn(
+            ItemCheckTexts::tr("characters"),
+            ItemCheckTexts::tr("no installed font shows %1").arg(names.join(QStringLiteral(", "))) +
+                (more > 0 ? ItemCheckTexts::tr(" and %1 more").arg(more) : QString()),
+            ItemCheckTexts::tr("install a font that has them or choose other characters"));
     }
 
     /** Ink, and not the line's box, decides: room for a descender may be cut away unseen. */
@@ -127,18 +130,18 @@ private:
             return;
         }
         if (ink.right() > m_item->size().width() + 1 || ink.left() < -1) {
-            warnOfMany(tr("it is wider than the item and cut at the side"),
-                       tr("use a smaller font or a wider item, or break the line"),
-                       [&text] { return tr("text %1").arg(quoted(text)); });
+            warnOfMany(ItemCheckTexts::tr("it is wider than the item and cut at the side"),
+                       ItemCheckTexts::tr("use a smaller font or a wider item, or break the line"),
+                       [&text] { return ItemCheckTexts::tr("text %1").arg(quoted(text)); });
         }
         const auto &slices = m_item->slices();
         const bool isWhole = std::any_of(slices.begin(), slices.end(), [&ink](const auto &slice) {
             return slice.top <= ink.top() + 1 && slice.bottom >= ink.bottom() - 1;
         });
         if (!isWhole) {
-            warnOfMany(tr("it is higher than the item and cut"),
-                       tr("use a smaller font or a higher item"),
-                       [&text] { return tr("text %1").arg(quoted(text)); });
+            warnOfMany(ItemCheckTexts::tr("it is higher than the item and cut"),
+                       ItemCheckTexts::tr("use a smaller font or a higher item"),
+                       [&text] { return ItemCheckTexts::tr("text %1").arg(quoted(text)); });
         }
     }
 
@@ -161,14 +164,15 @@ private:
         const QSizeF size = handler->intrinsicSize(&document(), position, format);
         if (size.width() > m_item->size().width() || size.height() > m_item->size().height()) {
             // One reason for all images, so that they count together.
-            const QString actual = tr("%1 x %2 pixels").arg(size.width()).arg(size.height());
-            warnOfMany(tr("it is larger than the item"),
-                       tr("make the image smaller than %1 x %2 pixels")
+            const QString actual =
+                ItemCheckTexts::tr("%1 x %2 pixels").arg(size.width()).arg(size.height());
+            warnOfMany(ItemCheckTexts::tr("it is larger than the item"),
+                       ItemCheckTexts::tr("make the image smaller than %1 x %2 pixels")
                            .arg(m_item->size().width())
                            .arg(m_item->size().height()),
                        [&] {
                            const QString name = format.name().left(TextShown);
-                           return tr("image %1, %2").arg(name, actual);
+                           return ItemCheckTexts::tr("image %1, %2").arg(name, actual);
                        });
         }
     }
@@ -180,9 +184,9 @@ private:
         const bool hasGround = format.background().style() != Qt::NoBrush;
         const QColor ground = hasGround ? format.background().color() : m_item->groundColor();
         if (!text.trimmed().isEmpty() && ground.alpha() > 0 && isAlike(ink, ground)) {
-            warnOfMany(tr("it has the colour of its ground"),
-                       tr("change the colour of the text or of the ground"),
-                       [&text] { return tr("text %1").arg(quoted(text)); });
+            warnOfMany(ItemCheckTexts::tr("it has the colour of its ground"),
+                       ItemCheckTexts::tr("change the colour of the text or of the ground"),
+                       [&text] { return ItemCheckTexts::tr("text %1").arg(quoted(text)); });
         }
     }
 

@@ -15,10 +15,11 @@ using namespace lctrlsex;
 
 namespace {
 
-QString tr(const char *text)
+/** Texts of this file, under one name for translators. */
+struct ItemRendererTexts
 {
-    return QCoreApplication::translate("ItemRenderer", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(ItemRenderer)
+};
 
 } // namespace
 
@@ -31,11 +32,11 @@ ItemRenderer::ItemRenderer(LTextEffectNode *node, const QString &place, const QS
         m_style.size = size;
     }
     if (!isPageSize(m_style.size)) {
-        problem(Problem::Error, tr("size"),
-                tr("%1 x %2 pixels is no page size")
+        problem(Problem::Error, ItemRendererTexts::tr("size"),
+                ItemRendererTexts::tr("%1 x %2 pixels is no page size")
                     .arg(m_style.size.width())
                     .arg(m_style.size.height()),
-                tr("give both sides from 1 to %1 pixels, %2 million in all")
+                ItemRendererTexts::tr("give both sides from 1 to %1 pixels, %2 million in all")
                     .arg(LongestPageSide)
                     .arg(MostPagePixels / 1000000));
         return;
@@ -48,16 +49,18 @@ ItemRenderer::ItemRenderer(LTextEffectNode *node, const QString &place, const QS
     m_document.setPageSize(QSizeF(m_style.size.width(), 0));
     m_slices = paginate(m_document, m_style.size.height());
     if (m_slices.size() == MostPages) {
-        problem(Problem::Error, tr("text"), tr("it has more than %1 pages").arg(MostPages),
-                tr("make the item higher or its text shorter"));
+        problem(Problem::Error, ItemRendererTexts::tr("text"),
+                ItemRendererTexts::tr("it has more than %1 pages").arg(MostPages),
+                ItemRendererTexts::tr("make the item higher or its text shorter"));
     }
     for (const ItemDocument::DeniedResource &denied : m_document.deniedResources()) {
-        problem(Problem::Error, tr("image %1").arg(denied.name), denied.reason, QString());
+        problem(Problem::Error, ItemRendererTexts::tr("image %1").arg(denied.name), denied.reason,
+                QString());
     }
     for (const QString &family : missingFamilies(m_document, node->GetFontFamily())) {
-        problem(Problem::Error, tr("font %1").arg(family),
-                tr("it is not installed, another font would be shown"),
-                tr("install the font or choose another one"));
+        problem(Problem::Error, ItemRendererTexts::tr("font %1").arg(family),
+                ItemRendererTexts::tr("it is not installed, another font would be shown"),
+                ItemRendererTexts::tr("install the font or choose another one"));
     }
 }
 
@@ -72,8 +75,10 @@ bool ItemRenderer::load(const LTextEffectNode &node)
     if (!stored.isEmpty()) {
         const DecodedDocument decoded = decodeDocument(stored);
         if (!decoded.error.isEmpty()) {
-            problem(Problem::Error, tr("document"), decoded.error,
-                    tr("restore the programme file from a copy; the stored text is kept as it is"));
+            problem(
+                Problem::Error, ItemRendererTexts::tr("document"), decoded.error,
+                ItemRendererTexts::tr(
+                    "restore the programme file from a copy; the stored text is kept as it is"));
             return false;
         }
         html = decoded.html;
@@ -81,7 +86,9 @@ bool ItemRenderer::load(const LTextEffectNode &node)
     const GuardedHtml guarded = guardHtml(html);
     if (!guarded.accepted) {
         problem(Problem::Error,
-                tr("document line %1 column %2").arg(guarded.line).arg(guarded.column),
+                ItemRendererTexts::tr("document line %1 column %2")
+                    .arg(guarded.line)
+                    .arg(guarded.column),
                 guarded.reason, guarded.remedy);
         return false;
     }

@@ -1,0 +1,170 @@
+#include "documentstorage.h"
+#include "floors.h"
+#include "lrichviewedit.h"
+#include "ltexteffectnode.h"
+#include "textedit.h"
+
+#include <QAbstractTextDocumentLayout>
+#include <QApplication>
+#include <QKeyEvent>
+#include <QTextEdit>
+
+using floors::Floor;
+
+namespace {
+
+constexpr QSize ItemSize(384, 128);
+
+/** Rich text of about @p characters, every third run in another look. */
+QString richText(int characters)
+{
+    QString html = QStringLiteral("<html><body>");
+    for (int written = 0, run = 0; written < characters; ++run) {
+        if (run % 3 == 0) {
+            html += QStringLiteral("<p>");
+        }
+        const QString color = run % 2 == 0 ? QStringLiteral("#ffffff") : QStringLiteral("#ffb000");
+        html += QStringLiteral("<span style=\"font-family:'DejaVu Sans'; font-size:%1pt; color:%2; "
+                               "font-weight:%3\">Departures platform %4 </span>")
+                    .arg(14 + run % 3)
+                    .arg(color)
+                    .arg(run % 3 == 1 ? 600 : 400)
+                    .arg(run);
+        written += 24;
+    }
+    return html + QStringLiteral("</body></html>");
+}
+
+/** An editor with a document, and a bare view of the same. */
+struct Pair
+{
+    explicit Pair(int characters)
+        : html(normalized(richText(characters)))
+    {
+        node.SetSize(ItemSize);
+        node.SetHtmlText(QString());
+        node.SetRawHtmlText(lctrlsex::encodeDocument(html));
+        editor.resize(900, 500);
+        editor.show();
+        editor.Init(&node);
+        view = editor.findChild<LRichViewEdit *>();
+        bare.resize(view->size());
+        bare.setLineWrapColumnOrWidth(ItemSize.width());
+        bare.setLineWrapMode(QTextEdit::FixedPixelWidth);
+        bare.show();
+        bare.setHtml(html);
+        QCoreApplication::processEvents();
+    }
+
+    /** What Qt itself writes, as it is stored. */
+    static QString normalized(const QString &html)
+    {
+        QTextDocument document;
+        document.setHtml(html);
+        return document.toHtml();
+    }
+
+    QString html;
+    LTextEffectNode node;
+    TextEdit editor;
+    LRichViewEdit *view = nullptr;
+    QTextEdit bare;
+};
+
+void press(QTextEdit *view, int key)
+{
+    QKeyEvent event(QEvent::KeyPress, key, Qt::NoModifier);
+    QCoreApplication::sendEvent(view, &event);
+    QCoreApplication::processEvents();
+}
+
+/** There and back, so that every round finds the cursor where the last one did. */
+void moveBy(QTextEdit *view, int steps)
+{
+    for (int step = 0; step < steps; ++step) {
+        press(view, Qt::Key_Right);
+    }
+    for (int step = 0; step < steps; ++step) {
+        press(view, Qt::Key_Left);
+    }
+}
+
+void cursorMoves(benchmark::State &state)
+{
+    Pair pair(int(state.range(0)));
+    const Floor bare{"bare", [&pair] {
+                         moveBy(&pair.bare, 60);
+                     }};
+    floors::besideFloors(
+        state,
+        [&pair] {
+            moveBy(pair.view, 60);
+        },
+        {bare});
+}
+
+void opening(benchmark::State &state)
+{
+    Pair pair(int(state.range(0)));
+    LTextEffectNode other;
+    const Floor setHtml{"setHtml", [&pair] {
+                            pair.bare.setHtml(pair.html);
+                        }};
+    floors::besideFloors(
+        state,
+        [&] {
+            pair.editor.Init(&other);
+            pair.editor.Init(&pair.node);
+        },
+        {setHtml});
+}
+
+void layOut(QTextDocument *document)
+{
+    document->markContentsDirty(0, document->characterCount());
+    benchmark::DoNotOptimize(document->documentLayout()->documentSize());
+}
+
+/** A change of the whole document, up to its new layout. */
+void wholeDocument(benchmark::State &state, const std::function<void(Pair *, int)> &change)
+{
+    Pair pair(100 * 1000);
+    int round = 0;
+    const Floor relayout{"relayout", [&pair] {
+                             layOut(pair.bare.document());
+                         }};
+    floors::besideFloors(
+        state,
+        [&] {
+            change(&pair, ++round);
+            benchmark::DoNotOptimize(pair.view->document()->documentLayout()->documentSize());
+        },
+        {relayout});
+}
+
+void letterSpacing(benchmark::State &state)
+{
+    wholeDocument(state, [](Pair *pair, int round) {
+        pair->editor.TextWordSpacingChanged(1 + round % 5);
+    });
+}
+
+void color(benchmark::State &state)
+{
+    wholeDocument(state, [](Pair *pair, int round) {
+        pair->view->selectAll();
+        pair->editor.TextColorChanged(round % 2 == 0 ? 0xff8000 : 0x00ff80);
+    });
+}
+
+} // namespace
+
+BENCHMARK(cursorMoves)->Arg(1000)->Arg(100000)->UseManualTime()->Unit(benchmark::kMicrosecond);
+BENCHMARK(opening)->Arg(1000)->Arg(100000)->UseManualTime()->Unit(benchmark::kMillisecond);
+BENCHMARK(letterSpacing)->UseManualTime()->Unit(benchmark::kMillisecond);
+BENCHMARK(color)->UseManualTime()->Unit(benchmark::kMillisecond);
+
+int main(int argc, char **argv)
+{
+    return floors::runBenchmarks<QApplication>(argc, argv);
+}

@@ -1,0 +1,16 @@
+#pragma once
+
+#include <QString>
+
+namespace lctrlsex {
+
+/**
+ * The HTML for display: every "font-size: N pt" says "px" with the number unchanged, because one
+ * point is one screen pixel, and the rich-text marker has its attributes in one order.
+ */
+[[nodiscard]] QString replacePtWithPx(const QString &html);
+
+/** Every "font-size: N px" says "pt", the number unchanged. */
+[[nodiscard]] QString replacePxWithPt(const QString &html);
+
+} // namespace lctrlsex

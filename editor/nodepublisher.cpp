@@ -1,0 +1,237 @@
+#include "nodepublisher.h"
+
+#include "documentstorage.h"
+#include "htmlguard.h"
+#include "htmlunits.h"
+#include "lrichviewedit.h"
+#include "ltexteffectnode.h"
+#include "nodecall.h"
+#include "nodepage.h"
+#include "scenethumbnailcapture.h"
+
+#include <QCoreApplication>
+#include <QImageReader>
+#include <QTextDocument>
+
+namespace lctrlsex {
+
+namespace {
+
+/** Texts of this file, under one name for translators. */
+struct NodePublisherTexts
+{
+    Q_DECLARE_TR_FUNCTIONS(NodePublisher)
+};
+
+/** A document that can be loaded, or why there is none. */
+struct Readable
+{
+    QString html;
+    QString problem;
+};
+
+Readable readStored(const QString &stored)
+{
+    const DecodedDocument decoded = decodeDocument(stored);
+    if (!decoded.error.isEmpty()) {
+        return {
+            QString(),
+            NodePublisherTexts::tr("The stored document cannot be read: %1.").arg(decoded.error)};
+    }
+    const GuardedHtml guarded = guardHtml(decoded.html);
+    if (!guarded.accepted) {
+        return {QString(), NodePublisherTexts::tr(
+                               "The stored document cannot be shown (line %1, column %2): %3. %4.")
+                               .arg(guarded.line)
+                               .arg(guarded.column)
+                               .arg(guarded.reason, guarded.remedy)};
+    }
+    return {guarded.html, QString()};
+}
+
+/** Plain text as a document; empty when even that is too much. */
+QString asHtml(const QString &plainText)
+{
+    return guardHtml(plainText.toHtmlEscaped().replace(QLatin1Char('\n'), QStringLiteral("<br/>")))
+        .html;
+}
+
+} // namespace
+
+NodePublisher::NodePublisher(LRichViewEdit *view)
+    : m_view(view)
+{}
+
+void NodePublisher::attach(LTextEffectNode *node)
+{
+    m_node = node;
+    ++m_attachment;
+    m_rawText.clear();
+    m_revision = m_view->document()->revision();
+    m_keepsStored = false;
+    m_forceRedraw = false;
+    m_isLoaded = false;
+}
+
+NodePublisher::Loaded NodePublisher::load()
+{
+    const QPointer<LTextEffectNode> node = m_node;
+    const int attachment = m_attachment;
+    const TextSettings settings = textSettingsOf(node);
+    const QString stored = nodeCall(node, &LTextEffectNode::GetRawHtmlText);
+    const QString plainText = nodeCall(node, &LTextEffectNode::GetPlayText);
+    Loaded result;
+    if (!isStill(node, attachment)) {
+        return result;
+    }
+    const Readable document = readStored(stored);
+    result.wasNew = stored.isEmpty();
+    result.notice = document.problem;
+    m_keepsStored = !document.problem.isEmpty();
+    m_view->load(m_keepsStored ? asHtml(plainText) : document.html, settings);
+    m_rawText = stored;
+    takeAsStored();
+    return result;
+}
+
+void NodePublisher::replaceStored()
+{
+    m_keepsStored = false;
+    m_revision = -1;
+}
+
+void NodePublisher::takeAsStored()
+{
+    m_revision = m_view->document()->revision();
+}
+
+bool NodePublisher::isEdited() const
+{
+    return m_isLoaded && !m_keepsStored && m_revision != m_view->document()->revision();
+}
+
+NodePublisher::Pushed NodePublisher::push()
+{
+    const QPointer<LTextEffectNode> node = m_node;
+    const int attachment = m_attachment;
+    if (!m_isLoaded || node.isNull() || m_keepsStored || m_pushing == attachment) {
+        return Nothing; // an announcement of a push may ask for another one
+    }
+    m_pushing = attachment;
+    const Pushed result = pushNow(node, attachment);
+    if (m_pushing == attachment) {
+        m_pushing = 0;
+    }
+    return result;
+}
+
+NodePublisher::Pushed NodePublisher::pushNow(const QPointer<LTextEffectNode> &node, int attachment)
+{
+    const bool isStoredAsIs =
+        !isEdited() && nodeCall(node, &LTextEffectNode::GetRawHtmlText) == m_rawText;
+    if (!isStill(node, attachment) || (isStoredAsIs && !m_forceRedraw)) {
+        return Nothing;
+    }
+    const bool hasTexts = !isStoredAsIs && storeTexts(node, attachment);
+    if (!isStill(node, attachment) || !(hasTexts || m_forceRedraw)) {
+        return Nothing;
+    }
+    m_forceRedraw = false;
+    announce(node, attachment);
+    return hasTexts ? Document : Look;
+}
+
+/** Writes the texts; false when the node holds the very same document already. */
+bool NodePublisher::storeTexts(const QPointer<LTextEffectNode> &node, int attachment)
+{
+    const QString html = m_view->toHtml();
+    const QString raw = encodeDocument(html);
+    m_revision = m_view->document()->revision();
+    const bool isSame = raw == nodeCall(node, &LTextEffectNode::GetRawHtmlText);
+    m_rawText = raw;
+    if (isSame || !isStill(node, attachment)) {
+        return false;
+    }
+    const QString playText = m_view->toPlainText();
+    const QString display = QString::fromUtf8(replacePtWithPx(html).toUtf8());
+    node->SetStringContent(display);
+    if (isStill(node, attachment)) {
+        node->SetRawHtmlText(raw);
+    }
+    if (isStill(node, attachment)) {
+        node->SetPlayText(playText);
+    }
+    if (isStill(node, attachment)) {
+        node->SetHtmlText(display);
+    }
+    return true;
+}
+
+/** Preview, thumbnail and redraw, in this order. */
+void NodePublisher::announce(const QPointer<LTextEffectNode> &node, int attachment)
+{
+    QImage image = pageImage(qMax(1, int(m_position.page)));
+    if (image.isNull()) {
+        const QSize size = nodeCall(node, &LTextEffectNode::Size);
+        image = nodeCall(node, &LTextEffectNode::NodeImage, size);
+    }
+    if (isStill(node, attachment)) {
+        node->UpdatePreviewCache(image);
+    }
+    if (isStill(node, attachment)) {
+        SceneThumbnailCapture::instance()->requestFromNode(node);
+    }
+    if (isStill(node, attachment)) {
+        node->ReDrawImaged();
+    }
+}
+
+QImage NodePublisher::pageFile(const QStringList &files, int page)
+{
+    if (page < 1 || page > files.size()) {
+        return QImage();
+    }
+    QImageReader reader(files.at(page - 1));
+    return isPageSize(reader.size()) ? reader.read() : QImage();
+}
+
+QImage NodePublisher::pageImage(int page)
+{
+    const QPointer<LTextEffectNode> node = m_node;
+    if (node.isNull()) {
+        return QImage();
+    }
+    QImage image = pageFile(
+        nodeCall(node, &LTextEffectNode::GetFilePath, QStringLiteral("DynamicData")), page);
+    const PageStyle style = pageStyleOf(node);
+    const PageFinish finish = pageFinishOf(node);
+    if (node.isNull()) {
+        return QImage();
+    }
+    if (image.isNull()) {
+        // Kept on purpose because later pages come from the files: only the top is drawn here.
+        image = m_renderer.topPage(m_view->document(), style);
+    }
+    return finishPage(image, style.size, finish, hostEffects());
+}
+
+bool NodePublisher::setPosition(PagePosition asked, bool notify)
+{
+    const QPointer<LTextEffectNode> node = m_node;
+    const int attachment = m_attachment;
+    if (node.isNull() || asked == m_position) {
+        return false;
+    }
+    m_position = clamped(asked);
+    const PagePosition position = m_position;
+    node->SetCurrentPage(int(position.page));
+    if (isStill(node, attachment)) {
+        node->SetPageCount(int(position.count));
+    }
+    if (notify && isStill(node, attachment)) {
+        node->PageChanged();
+    }
+    return true;
+}
+
+} // namespace lctrlsex

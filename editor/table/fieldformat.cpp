@@ -1,0 +1,132 @@
+#include "fieldformat.h"
+
+#include <QStringList>
+#include <QTextCursor>
+
+namespace lctrlsex {
+
+namespace {
+
+QString namePrefix()
+{
+    return QStringLiteral("data://bindKey/");
+}
+
+QString nameSuffix()
+{
+    return QStringLiteral(".png");
+}
+
+QString nameOrEmpty(const QColor &color)
+{
+    return color.isValid() ? color.name() : QString();
+}
+
+QColor colorOrInvalid(const QString &name)
+{
+    return name.isEmpty() ? QColor() : QColor(name);
+}
+
+} // namespace
+
+QString FieldStyle::toString() const
+{
+    QStringList parts{conditionId,
+                      text.family,
+                      QString::number(text.effectiveSize()),
+                      QString::number(int(text.italic)),
+                      QString::number(int(text.underline)),
+                      QString::number(int(text.bold)),
+                      nameOrEmpty(text.color),
+                      nameOrEmpty(background)};
+    parts.replaceInStrings(QStringLiteral(";"), QStringLiteral(" "));
+    return parts.join(QLatin1Char(';'));
+}
+
+FieldStyle FieldStyle::fromString(const QString &style)
+{
+    FieldStyle result;
+    const QStringList parts = style.split(QLatin1Char(';'));
+    if (parts.size() < 8) {
+        return result;
+    }
+    result.conditionId = parts.at(0);
+    result.text.family = parts.at(1);
+    result.text.pointSize = parts.at(2).toInt();
+    result.text.pointSize = result.text.effectiveSize();
+    result.text.italic = parts.at(3).toInt() != 0;
+    result.text.underline = parts.at(4).toInt() != 0;
+    result.text.bold = parts.at(5).toInt() != 0;
+    result.text.color = colorOrInvalid(parts.at(6));
+    result.background = colorOrInvalid(parts.at(7));
+    return result;
+}
+
+QString fieldName(const QString &qualifiedKey)
+{
+    return qualifiedKey.mid(qualifiedKey.indexOf(QLatin1Char(':')) + 1);
+}
+
+QString fieldImageName(const QString &qualifiedKey)
+{
+    const int colon = qualifiedKey.indexOf(QLatin1Char(':'));
+    const QString source = colon < 0 ? QString() : qualifiedKey.left(colon);
+    return namePrefix() + source + QLatin1Char('/') + fieldName(qualifiedKey) + nameSuffix();
+}
+
+QString fieldKey(const QString &imageName)
+{
+    const int start = imageName.indexOf(namePrefix());
+    if (start < 0) {
+        return {};
+    }
+    QString path = imageName.mid(start + namePrefix().size());
+    path.chop(nameSuffix().size());
+    const int slash = path.indexOf(QLatin1Char('/'));
+    if (slash <= 0) {
+        return path.mid(slash + 1);
+    }
+    return path.left(slash) + QLatin1Char(':') + path.mid(slash + 1);
+}
+
+bool isField(const QTextCharFormat &format)
+{
+    return format.isImageFormat() && format.hasProperty(FieldKeyProperty) &&
+           format.hasProperty(FieldStyleProperty) &&
+           format.toImageFormat().name().contains(namePrefix());
+}
+
+QTextImageFormat fieldFormat(const QString &qualifiedKey, const TypingStyle &style)
+{
+    FieldStyle fieldStyle;
+    fieldStyle.text = style;
+    QTextImageFormat format;
+    format.setName(fieldImageName(qualifiedKey));
+    format.setProperty(FieldKeyProperty, qualifiedKey);
+    format.setProperty(FieldStyleProperty, fieldStyle.toString());
+    return format;
+}
+
+void insertField(QTextCursor &cursor, const QString &qualifiedKey, const TypingStyle &style)
+{
+    cursor.insertImage(fieldFormat(qualifiedKey, style));
+    cursor.setCharFormat(style.toFormat());
+}
+
+QTextCharFormat formatBehind(const QTextCharFormat &format)
+{
+    if (!format.hasProperty(FieldKeyProperty) || !format.hasProperty(FieldStyleProperty)) {
+        return format;
+    }
+    return FieldStyle::fromString(format.stringProperty(FieldStyleProperty)).text.toFormat();
+}
+
+QTextCharFormat conditionAnchor(const QString &id, const QString &name)
+{
+    QTextCharFormat format;
+    format.setAnchor(true);
+    format.setAnchorHref(QStringLiteral("bindStyle;") + id + QLatin1Char(';') + name);
+    return format;
+}
+
+} // namespace lctrlsex

@@ -1,0 +1,194 @@
+#include "fieldimages.h"
+
+#include <QFontMetrics>
+#include <QPainter>
+#include <QTextBlock>
+#include <QTextDocument>
+#include <QTextFrame>
+#include <QUrl>
+
+namespace lctrlsex {
+
+struct FieldImages::Found
+{
+    int position = 0;
+    int length = 0;
+    QString name;
+    QString style;
+};
+
+namespace {
+
+constexpr int MostCharacters = 1000;
+constexpr int LargestFontSize = 1000;
+constexpr int WidestImage = 16384;
+constexpr int MostPixels = 8 * 1000 * 1000;
+constexpr qreal DimmedOpacity = 0.5;
+
+/** One line of @p text: a break becomes a blank, the rest is cut. */
+QString oneLine(const QString &text)
+{
+    QString line = text.left(MostCharacters);
+    if (line.size() < text.size() && line.at(line.size() - 1).isHighSurrogate()) {
+        line.chop(1);
+    }
+    line.replace(QLatin1String("\r\n"), QLatin1String(" "));
+    for (QChar &character : line) {
+        const bool isBreak = character == QChar::LineSeparator ||
+                             character == QChar::ParagraphSeparator || character < QLatin1Char(' ');
+        if (isBreak) {
+            character = QLatin1Char(' ');
+        }
+    }
+    return line;
+}
+
+QFont fontOf(const TypingStyle &style)
+{
+    QFont font(style.family);
+    font.setPixelSize(qMin(style.effectiveSize(), LargestFontSize));
+    font.setItalic(style.italic);
+    font.setUnderline(style.underline);
+    font.setWeight(style.bold ? QFont::Bold : QFont::Normal);
+    return font;
+}
+
+/**
+ * The size of a line of text. An image stands on the line of writing, so what letters do not need
+ * below it is left away: numbers and capitals line up with the text beside them.
+ */
+QSize lineSize(const QString &line, const QFontMetrics &metrics, bool isUnderlined)
+{
+    const QRect ink = metrics.tightBoundingRect(line);
+    const int below =
+        isUnderlined ? metrics.descent() : qBound(0, ink.bottom() + 1, metrics.descent());
+    const int height = qMax(1, metrics.ascent() + below);
+    const int width = qMax(metrics.horizontalAdvance(line), ink.right() + 1);
+    return {qBound(1, width, qMin(WidestImage, MostPixels / height)), height};
+}
+
+} // namespace
+
+QImage drawField(const QString &text, const FieldStyle &style, bool isDimmed)
+{
+    const QString line = oneLine(text);
+    const QFont font = fontOf(style.text);
+    const QFontMetrics metrics(font);
+    QImage image(lineSize(line, metrics, style.text.underline),
+                 QImage::Format_ARGB32_Premultiplied);
+    if (image.isNull()) {
+        return image;
+    }
+    image.fill(style.background.isValid() ? style.background : QColor(Qt::transparent));
+    QPainter painter(&image);
+    painter.setFont(font);
+    painter.setPen(style.text.color.isValid() ? style.text.color : QColor(Qt::white));
+    painter.setOpacity(isDimmed ? DimmedOpacity : 1);
+    painter.drawText(0, metrics.ascent(), line);
+    return image;
+}
+
+namespace {
+
+/** Whether both places are laid out again together: a table is always laid out as a whole. */
+bool belongTogether(const QTextDocument &document, int position, int other)
+{
+    const QTextFrame *frame = document.frameAt(position);
+    return (frame != document.rootFrame() && frame == document.frameAt(other)) ||
+           document.findBlock(position) == document.findBlock(other);
+}
+
+} // namespace
+
+QVector<FieldImages::Found> FieldImages::fieldsOf(const QTextDocument &document)
+{
+    QVector<Found> fields;
+    for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
+        for (auto it = block.begin(); !it.atEnd(); ++it) {
+            const QTextFragment fragment = it.fragment();
+            if (fragment.isValid() && isField(fragment.charFormat())) {
+                const QTextImageFormat format = fragment.charFormat().toImageFormat();
+                fields.append({fragment.position(), fragment.length(), format.name(),
+                               format.stringProperty(FieldStyleProperty)});
+            }
+        }
+    }
+    return fields;
+}
+
+QHash<QString, FieldImages::Drawn> FieldImages::wanted(const QVector<Found> &fields,
+                                                       const QMap<QString, QString> &values)
+{
+    QHash<QString, Drawn> result;
+    for (const Found &field : fields) {
+        const QString key = fieldKey(field.name);
+        const QString value = values.value(key, values.value(fieldName(key)));
+        const bool isMissing = value.isEmpty();
+        result.insert(field.name, {isMissing ? fieldName(key) : value, field.style, isMissing, 0});
+    }
+    return result;
+}
+
+bool FieldImages::isCurrent(const QTextDocument &document, const QString &name,
+                            const Drawn &field) const
+{
+    const auto before = m_drawn.constFind(name);
+    if (before == m_drawn.constEnd() || before->text != field.text ||
+        before->style != field.style || before->isDimmed != field.isDimmed) {
+        return false;
+    }
+    const QVariant image = document.resource(QTextDocument::ImageResource, QUrl(name));
+    return image.value<QImage>().cacheKey() == before->imageKey;
+}
+
+/** Draws those of @p fields that are not current, and remembers all of them. */
+QSet<QString> FieldImages::draw(QTextDocument *document, QHash<QString, Drawn> fields)
+{
+    QSet<QString> changed;
+    for (auto it = fields.begin(); it != fields.end(); ++it) {
+        if (isCurrent(*document, it.key(), *it)) {
+            it->imageKey = m_drawn.value(it.key()).imageKey;
+            continue;
+        }
+        const QImage image = drawField(it->text, FieldStyle::fromString(it->style), it->isDimmed);
+        document->addResource(QTextDocument::ImageResource, QUrl(it.key()), image);
+        it->imageKey = image.cacheKey();
+        changed.insert(it.key());
+    }
+    m_drawn = fields;
+    return changed;
+}
+
+void FieldImages::markDirty(QTextDocument *document, const QVector<Found> &fields,
+                            const QSet<QString> &changed)
+{
+    int first = 0;
+    int end = 0;
+    for (const Found &field : fields) {
+        if (!changed.contains(field.name)) {
+            continue;
+        }
+        if (end > 0 && !belongTogether(*document, first, field.position)) {
+            document->markContentsDirty(first, end - first);
+            end = 0;
+        }
+        first = end > 0 ? first : field.position;
+        end = field.position + field.length;
+    }
+    if (end > 0) {
+        document->markContentsDirty(first, end - first);
+    }
+}
+
+bool FieldImages::refresh(QTextDocument *document, const QMap<QString, QString> &values)
+{
+    if (document == nullptr) {
+        return false;
+    }
+    const QVector<Found> fields = fieldsOf(*document);
+    const QSet<QString> changed = draw(document, wanted(fields, values));
+    markDirty(document, fields, changed);
+    return !changed.isEmpty();
+}
+
+} // namespace lctrlsex

@@ -1,0 +1,57 @@
+#pragma once
+
+#include "fieldformat.h"
+
+#include <QHash>
+#include <QImage>
+#include <QMap>
+#include <QSet>
+#include <QString>
+#include <QVector>
+
+class QTextDocument;
+
+namespace lctrlsex {
+
+/**
+ * A field's text on a transparent ground: one line, at most 1000 characters, the letters as many
+ * pixels high as @p style has points. An @p isDimmed text shows that a value is missing.
+ */
+[[nodiscard]] QImage drawField(const QString &text, const FieldStyle &style, bool isDimmed);
+
+/** Keeps the images of one document's fields up to date. */
+class FieldImages
+{
+public:
+    /**
+     * Draws the fields of @p document whose value or look differs from what was drawn last, or
+     * whose image was lost, and has just these laid out again. @p values are texts by qualified
+     * key or, for a key that is not there, by field name. A field without a value, or with an
+     * empty one, shows its own name dimmed. Of fields with one key and several looks the last in
+     * the document wins, since they share an image. Returns whether anything changed. Makes no
+     * undo step and announces no change of text; null changes nothing.
+     */
+    bool refresh(QTextDocument *document, const QMap<QString, QString> &values);
+
+private:
+    struct Drawn
+    {
+        QString text;
+        QString style;
+        bool isDimmed = false;
+        qint64 imageKey = 0;
+    };
+    struct Found;
+
+    static QVector<Found> fieldsOf(const QTextDocument &document);
+    static QHash<QString, Drawn> wanted(const QVector<Found> &fields,
+                                        const QMap<QString, QString> &values);
+    static void markDirty(QTextDocument *document, const QVector<Found> &fields,
+                          const QSet<QString> &changed);
+    bool isCurrent(const QTextDocument &document, const QString &name, const Drawn &field) const;
+    QSet<QString> draw(QTextDocument *document, QHash<QString, Drawn> fields);
+
+    QHash<QString, Drawn> m_drawn;
+};
+
+} // namespace lctrlsex

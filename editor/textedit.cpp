@@ -1,0 +1,242 @@
+#include "textedit.h"
+
+#include "documentsetup.h"
+#include "edittoolbar.h"
+#include "fieldvalues.h"
+#include "fontnames.h"
+#include "formatcommands.h"
+#include "fragmentmerge.h"
+#include "lappconfig.h"
+#include "lrichviewedit.h"
+#include "ltexteffectnode.h"
+#include "ltranslation.h"
+#include "nodecall.h"
+#include "nodepublisher.h"
+#include "table/bindingmenus.h"
+#include "table/tablecommands.h"
+
+#include <QActionGroup>
+#include <QEvent>
+#include <QFrame>
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QPushButton>
+#include <QShortcut>
+#include <QToolBar>
+#include <QVBoxLayout>
+
+using lctrlsex::nodeCall;
+
+namespace {
+
+constexpr int MergeDelay = 50; // milliseconds
+
+} // namespace
+
+TextEdit::TextEdit(QWidget *parent)
+    : QWidget(parent)
+    , m_view(new LRichViewEdit(this))
+    , m_format(new lctrlsex::FormatCommands(m_view))
+    , m_publisher(new lctrlsex::NodePublisher(m_view))
+    , m_table(new lctrlsex::TableCommands(m_view))
+    , m_binding(new lctrlsex::BindingMenus)
+    , m_fields(new lctrlsex::FieldValues)
+{
+    m_view->setObjectName(QStringLiteral("RichView"));
+    m_view->installEventFilter(this);
+    auto *toolBar = new QToolBar(this);
+    toolBar->setObjectName(QStringLiteral("FormatToolBar"));
+    m_toolBar = std::make_unique<lctrlsex::EditToolBar>(toolBar, this);
+    m_mergeTimer.setSingleShot(true);
+    m_mergeTimer.setInterval(MergeDelay);
+    connect(&m_mergeTimer, SIGNAL(timeout()), this, SLOT(performSmartMerge()));
+
+    setupEditActions(toolBar);
+    setupTextActions();
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    layout->addWidget(toolBar);
+    m_dataToolBar = makeDataToolBar();
+    layout->addWidget(m_dataToolBar);
+    layout->addWidget(noticeStrip());
+    layout->addWidget(m_view, 1);
+    CreateConnect();
+    Translate();
+    setUsable(false);
+}
+
+TextEdit::~TextEdit()
+{
+    m_view->removeEventFilter(this);
+}
+
+void TextEdit::setupEditActions(QToolBar *toolBar)
+{
+    Q_UNUSED(toolBar)
+    m_toolBar->addEditActions(
+        lctrlsex::offeredFonts(LAppConfig::AppDataDir() + QStringLiteral("/outputpath/Font")));
+}
+
+void TextEdit::setupTextActions()
+{
+    m_toolBar->addTextActions();
+    const auto actions = m_toolBar->toolBar()->actions();
+    for (QAction *action : actions) {
+        if (!action->shortcut().isEmpty()) {
+            addAction(action); // its shortcut works wherever the focus is in the editor
+        }
+    }
+    // Kept on purpose because users know the key: the justify action is hidden and still has one.
+    QAction *justify = m_toolBar->action(QStringLiteral("actionAlignJustify"));
+    auto *key = new QShortcut(justify->shortcut(), this);
+    key->setContext(Qt::WidgetWithChildrenShortcut);
+    connect(key, &QShortcut::activated, this, [this, justify] {
+        justify->setChecked(true);
+        textAlign(justify);
+    });
+}
+
+QToolBar *TextEdit::makeDataToolBar()
+{
+    auto *toolBar = new QToolBar(this);
+    toolBar->setObjectName(QStringLiteral("DataToolBar"));
+    toolBar->setFont(m_toolBar->toolBar()->font());
+    toolBar->setStyleSheet(m_toolBar->toolBar()->styleSheet());
+    const auto buttons = m_binding->buttons();
+    for (QWidget *button : buttons) {
+        toolBar->addWidget(button);
+    }
+    return toolBar;
+}
+
+QWidget *TextEdit::noticeStrip()
+{
+    m_notice = new QFrame(this);
+    m_notice->setObjectName(QStringLiteral("NoticeStrip"));
+    m_notice->setStyleSheet(QStringLiteral("#NoticeStrip{background-color:#8c2f1b;}"));
+    auto *layout = new QHBoxLayout(m_notice);
+    m_noticeLabel = new QLabel(m_notice);
+    m_noticeLabel->setObjectName(QStringLiteral("NoticeLabel"));
+    m_noticeLabel->setTextFormat(Qt::PlainText); // it may quote what a document holds
+    m_noticeLabel->setWordWrap(true);
+    m_noticeLabel->setStyleSheet(
+        QStringLiteral("color:white;font-size:16px; padding: 0px; a { text-decoration: none; }"));
+    m_noticeButton = new QPushButton(m_notice);
+    m_noticeButton->setObjectName(QStringLiteral("EditAsPlainText"));
+    layout->addWidget(m_noticeLabel, 1);
+    layout->addWidget(m_noticeButton);
+    connect(m_noticeButton, &QPushButton::clicked, this, [this] {
+        m_publisher->replaceStored();
+        showNotice(QString());
+        setUsable(true);
+        TextDrawImage();
+    });
+    m_notice->hide();
+    return m_notice;
+}
+
+void TextEdit::showNotice(const QString &text)
+{
+    m_noticeLabel->setText(text);
+    m_notice->setVisible(!text.isEmpty());
+}
+
+void TextEdit::setUsable(bool on)
+{
+    m_view->setReadOnly(!on);
+    m_view->setEnabled(on || m_publisher->keepsStored());
+    m_toolBar->toolBar()->setEnabled(on);
+    m_dataToolBar->setEnabled(on);
+}
+
+void TextEdit::CreateConnect()
+{
+    connect(LTranslation::instance(), SIGNAL(LanguageChanged()), this, SLOT(Translate()));
+    connect(m_view, SIGNAL(PageChange(uint, uint)), this, SLOT(PageChanged(uint, uint)));
+    connect(m_view, SIGNAL(TextFontNameChanged(const QString &)), this,
+            SLOT(TextFontNameChanged(const QString &)));
+    connect(m_view, SIGNAL(TextColorChanged(uint)), this, SLOT(TextColorChanged(uint)));
+    connect(m_view, SIGNAL(TextBackgroundColorChanged(uint)), this,
+            SLOT(TextBackgroundColorChanged(uint)));
+    connect(m_view, SIGNAL(TextHAlignmentChanged(uint)), this, SLOT(TextHAlignmentChanged(uint)));
+    connect(m_view, SIGNAL(TextVAlignmentChanged(uint)), this, SLOT(TextVAlignmentChanged(uint)));
+    connect(m_view, SIGNAL(TextBoldFlagChanged(bool)), this, SLOT(TextBoldFlagChanged(bool)));
+    connect(m_view, SIGNAL(TextItalicFlagChanged(bool)), this, SLOT(TextItalicFlagChanged(bool)));
+    connect(m_view, SIGNAL(TextUnderlineFlagChanged(bool)), this,
+            SLOT(TextUnderlineFlagChanged(bool)));
+    connect(m_view, SIGNAL(TextWordSpacingChange(int)), this, SLOT(TextWordSpacingChanged(int)));
+    connect(m_view, SIGNAL(TextLineSpacingChange(int)), this, SLOT(TextLineSpacingChanged(int)));
+    connect(m_view, SIGNAL(TableSplitCell(bool)), this, SLOT(TableSplitCell(bool)));
+    connect(m_view, SIGNAL(cursorPositionChanged()), this, SLOT(CursorPositionFontStatusMarked()));
+    // Queued, so that the edit that caused it has ended.
+    connect(m_view, SIGNAL(textChanged()), this, SLOT(TextChanged()), Qt::QueuedConnection);
+    connect(m_view, SIGNAL(InsertCopyText(QString)), this, SLOT(InsertCopyText(QString)));
+    connect(m_view, SIGNAL(InsertFieldNameSignal(QString)), this,
+            SLOT(ONInsertFieldNameChanged(QString)));
+    connect(m_view, SIGNAL(TableTypeChangeSignal(LUM_EditInterface::LTableProperties)), this,
+            SLOT(OnTableInfoChange(LUM_EditInterface::LTableProperties)));
+    connect(m_binding.get(), SIGNAL(sourcePicked(QAction *)), this,
+            SLOT(ONDataSourceNameChanged(QAction *)));
+    connect(m_binding.get(), SIGNAL(fieldPicked(QAction *)), this,
+            SLOT(ONFieldNameChanged(QAction *)));
+    connect(m_binding.get(), SIGNAL(stylePicked(QAction *)), this,
+            SLOT(ONConditionStyleChanged(QAction *)));
+}
+
+void TextEdit::Translate()
+{
+    m_toolBar->translate();
+    m_binding->retranslate();
+    m_noticeButton->setText(tr("Edit as Plain Text"));
+    m_noticeButton->setToolTip(tr("The stored document is replaced by what you see here"));
+    m_view->setAccessibleName(tr("Text"));
+}
+
+bool TextEdit::Contain(int value)
+{
+    Q_UNUSED(value)
+    return false;
+}
+
+bool TextEdit::NotContain(int value)
+{
+    Q_UNUSED(value)
+    return true;
+}
+
+void TextEdit::UpdateBottonMode(int mode, bool apply)
+{
+    if (apply) {
+        m_singleLine = mode == LTextEffectNode::SingleLine;
+    }
+    m_toolBar->showFormattingActions();
+}
+
+bool TextEdit::isAttached(int attachment) const
+{
+    return attachment == m_attachment && !m_node.isNull();
+}
+
+bool TextEdit::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched != m_view || event->type() != QEvent::KeyPress || m_view->isReadOnly()) {
+        return QWidget::eventFilter(watched, event);
+    }
+    const int key = static_cast<QKeyEvent *>(event)->key();
+    if (m_singleLine && (key == Qt::Key_Return || key == Qt::Key_Enter)) {
+        return true;
+    }
+    const QTextCursor cursor = m_view->textCursor();
+    if (!cursor.hasSelection() && lctrlsex::isInvisible(cursor.charFormat())) {
+        rebuildTypingFormat();
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
+void TextEdit::showEvent(QShowEvent *event)
+{
+    QWidget::showEvent(event);
+    m_firstShow = false;
+}

@@ -1,0 +1,385 @@
+#include "colorchoice.h"
+#include "documentsetup.h"
+#include "edittoolbar.h"
+#include "formatcommands.h"
+#include "lappconfig.h"
+#include "lrichviewedit.h"
+#include "ltexteffectnode.h"
+#include "nodecall.h"
+#include "nodepublisher.h"
+#include "table/fieldformat.h"
+#include "textedit.h"
+
+#include <QActionGroup>
+#include <QApplication>
+#include <QClipboard>
+#include <QComboBox>
+#include <QRegularExpression>
+#include <QTextBlock>
+
+using lctrlsex::nodeCall;
+
+namespace {
+
+constexpr int LeastLineSpacing = 100;
+constexpr int MostWordSpacing = 99;
+
+/** Whether @p value is one that the word spacing box can show. */
+bool isWordSpacing(int value)
+{
+    return value >= 0 && value <= MostWordSpacing;
+}
+
+} // namespace
+
+// Applying values
+
+void TextEdit::mergeFormatOnWordOrSelection(QTextCharFormat format)
+{
+    m_format->mergeOnWordOrSelection(format);
+}
+
+void TextEdit::TextFontNameChanged(const QString &family)
+{
+    if (family.isEmpty()) {
+        return;
+    }
+    QTextCharFormat format;
+    format.setFontFamily(family);
+    m_format->mergeOnWordOrSelection(format);
+    nodeCall(m_node, &LTextEffectNode::SetFontFamily, family);
+}
+
+void TextEdit::TextFontSizeChanged(uint size)
+{
+    const double points = QString::number(size).toDouble();
+    if (points <= 0) {
+        return;
+    }
+    QTextCharFormat format;
+    format.setFontPointSize(points);
+    m_format->mergeOnWordOrSelection(format);
+    nodeCall(m_node, &LTextEffectNode::SetFontSize, int(size));
+}
+
+void TextEdit::TextColorChanged(uint color)
+{
+    m_textColor = QColor::fromRgb(color);
+    m_toolBar->showTextColor(m_textColor);
+    QTextCharFormat format;
+    format.setForeground(m_textColor);
+    m_format->mergeOnWordOrSelection(format);
+}
+
+void TextEdit::TextBackgroundColorChanged(uint color)
+{
+    QColor background = QColor::fromRgb(color);
+    background.setAlpha(255);
+    m_toolBar->showTextBackground(background);
+    QTextCharFormat format;
+    format.setBackground(background);
+    m_format->mergeOnWordOrSelection(format);
+}
+
+void TextEdit::EditBackgroundColorChanged(uint color)
+{
+    m_toolBar->showEditorBackground(QColor::fromRgb(color));
+}
+
+void TextEdit::TextHAlignmentChanged(uint align)
+{
+    m_format->setAlignment(Qt::Alignment(int(align)));
+    alignmentChanged(Qt::Alignment(int(align)));
+    nodeCall(m_node, &LTextEffectNode::SetContentHAlign, int(align));
+}
+
+void TextEdit::TextVAlignmentChanged(uint align)
+{
+    m_toolBar->showVAlign(int(align));
+    nodeCall(m_node, &LTextEffectNode::SetContentAlign, int(align));
+    redraw();
+}
+
+void TextEdit::TextBoldFlagChanged(bool flag)
+{
+    m_toolBar->setChecked(QStringLiteral("actionTextBold"), flag);
+    QTextCharFormat format;
+    format.setFontWeight(flag ? QFont::Bold : QFont::Normal);
+    m_format->mergeOnWordOrSelection(format);
+}
+
+void TextEdit::TextItalicFlagChanged(bool flag)
+{
+    m_toolBar->setChecked(QStringLiteral("actionTextItalic"), flag);
+    QTextCharFormat format;
+    format.setFontItalic(flag);
+    m_format->mergeOnWordOrSelection(format);
+}
+
+void TextEdit::TextUnderlineFlagChanged(bool flag)
+{
+    m_toolBar->setChecked(QStringLiteral("actionTextUnderline"), flag);
+    QTextCharFormat format;
+    format.setFontUnderline(flag);
+    m_format->mergeOnWordOrSelection(format);
+}
+
+void TextEdit::TextWordSpacingChanged(int value)
+{
+    if (m_singleLine) {
+        return;
+    }
+    m_publisher->setLoaded(false);
+    m_toolBar->showWordSpacing(qBound(0, value, MostWordSpacing));
+    m_format->setLetterSpacing(lctrlsex::letterSpacing(value));
+    m_publisher->setLoaded(true);
+}
+
+void TextEdit::TextLineSpacingChanged(int value)
+{
+    if (m_singleLine) {
+        return;
+    }
+    m_publisher->setLoaded(false);
+    const int percent = qMax(LeastLineSpacing, value);
+    m_toolBar->showLineSpacing(percent);
+    m_format->setLineHeight(percent);
+    m_publisher->setLoaded(true);
+}
+
+// Commands of the tool bar
+
+void TextEdit::textFamily(const QString &family)
+{
+    // A family that is not offered is shown with a mark; what it marks is meant.
+    const bool isFromBox = qobject_cast<QComboBox *>(sender()) != nullptr;
+    TextFontNameChanged(isFromBox ? m_toolBar->family() : family);
+}
+
+void TextEdit::textSize(const QString &size)
+{
+    bool isNumber = false;
+    const double points = size.toDouble(&isNumber);
+    if (isNumber && points > 0) {
+        TextFontSizeChanged(uint(points));
+    }
+}
+
+void TextEdit::textBold()
+{
+    TextBoldFlagChanged(m_toolBar->isChecked(QStringLiteral("actionTextBold")));
+}
+
+void TextEdit::textItalic()
+{
+    TextItalicFlagChanged(m_toolBar->isChecked(QStringLiteral("actionTextItalic")));
+}
+
+void TextEdit::textUnderline()
+{
+    TextUnderlineFlagChanged(m_toolBar->isChecked(QStringLiteral("actionTextUnderline")));
+}
+
+QColor TextEdit::askColor(const QString &title, const QColor &current)
+{
+    const QPointer<TextEdit> self = this;
+    const int attachment = m_attachment;
+    const QColor chosen = lctrlsex::chooseColor(this, title, current);
+    // The host may have deleted the editor or the node, or taken another one, meanwhile.
+    return self != nullptr && isAttached(attachment) ? chosen : QColor();
+}
+
+void TextEdit::textColor()
+{
+    const QColor chosen = askColor(tr("Text Color"), m_view->textColor());
+    if (chosen.isValid()) {
+        TextColorChanged(chosen.rgb());
+    }
+}
+
+void TextEdit::TextBgcolor()
+{
+    const QColor chosen = askColor(tr("Text Background Color"), m_toolBar->textBackground());
+    if (chosen.isValid()) {
+        TextBackgroundColorChanged(chosen.rgb());
+    }
+}
+
+void TextEdit::ClearTextBgcolor()
+{
+    m_format->clearBackground();
+}
+
+void TextEdit::EditorBgColor()
+{
+    const QColor chosen = askColor(tr("Editor Background Color"), m_toolBar->editorBackground());
+    if (!chosen.isValid()) {
+        return;
+    }
+    const int attachment = m_attachment;
+    nodeCall(m_node, &LTextEffectNode::SetEditBgColor, LAppConfig::ColorToInt(chosen));
+    if (isAttached(attachment)) {
+        showGround();
+        redraw();
+    }
+}
+
+void TextEdit::TransBgColor()
+{
+    const int attachment = m_attachment;
+    nodeCall(m_node, &LTextEffectNode::SetTransBgColor,
+             m_toolBar->isChecked(QStringLiteral("actionTransBgColor")));
+    if (isAttached(attachment)) {
+        showGround();
+        redraw();
+    }
+}
+
+void TextEdit::textAlign(QAction *action)
+{
+    TextHAlignmentChanged(uint(lctrlsex::EditToolBar::alignOf(action)));
+}
+
+void TextEdit::textVAlign(QAction *action)
+{
+    TextVAlignmentChanged(uint(lctrlsex::EditToolBar::alignOf(action)));
+}
+
+void TextEdit::alignmentChanged(Qt::Alignment align)
+{
+    m_toolBar->showAlign(align);
+}
+
+void TextEdit::UseHollow()
+{
+    nodeCall(m_node, &LTextEffectNode::SetUseHollow,
+             m_toolBar->isChecked(QStringLiteral("actionUseHollow")) ? 1 : 0);
+    redraw();
+}
+
+void TextEdit::StrokeColor()
+{
+    const QColor chosen = askColor(tr("Stroke Color"), m_toolBar->strokeColor());
+    if (!chosen.isValid()) {
+        return;
+    }
+    const int attachment = m_attachment;
+    nodeCall(m_node, &LTextEffectNode::SetStrokeColor, LAppConfig::ColorToInt(chosen));
+    if (isAttached(attachment)) {
+        nodeCall(m_node, &LTextEffectNode::SetUseStroke, 1);
+    }
+    if (isAttached(attachment)) {
+        SetStrokeColorButtonImage(chosen);
+        redraw();
+    }
+}
+
+void TextEdit::ClearStrokeColor()
+{
+    nodeCall(m_node, &LTextEffectNode::SetUseStroke, 0);
+    redraw();
+}
+
+void TextEdit::SetStrokeColorButtonImage(const QColor &color)
+{
+    m_toolBar->showStrokeColor(color);
+}
+
+void TextEdit::WordSpacingChanged(int value)
+{
+    nodeCall(m_node, &LTextEffectNode::SetFontSpace, value);
+    TextWordSpacingChanged(value);
+}
+
+void TextEdit::LineSpacingChanged(int value)
+{
+    TextLineSpacingChanged(value);
+}
+
+void TextEdit::ON_VerticalStretch()
+{
+    const int attachment = m_attachment;
+    const bool fills = nodeCall(m_node, &LTextEffectNode::GetTableFillArea);
+    nodeCall(m_node, &LTextEffectNode::SetTableFillArea, !fills);
+    if (isAttached(attachment)) {
+        copyTableSettings();
+        redraw();
+    }
+}
+
+// Focus, clipboard, typing
+
+void TextEdit::SetEditFocus()
+{
+    m_view->setFocus();
+}
+
+void TextEdit::EditFocusIn()
+{
+    m_view->setFocus();
+}
+
+void TextEdit::EditFocusOut()
+{
+    m_view->clearFocus();
+}
+
+void TextEdit::CopyAction()
+{
+    m_view->copy();
+}
+
+void TextEdit::PasteAction()
+{
+    m_view->paste(); // comes back as InsertCopyText()
+}
+
+void TextEdit::InsertCopyText(QString text)
+{
+    if (m_view->isReadOnly()) {
+        return;
+    }
+    if (m_singleLine) {
+        static const QRegularExpression breaks(QStringLiteral("[\\n\\r]"));
+        text.remove(breaks);
+    }
+    if (!text.isEmpty()) {
+        // Kept on purpose because screens are dark: pasted text takes the tool bar's look in white.
+        m_format->insertText(text, m_toolBar->typingStyle(Qt::white));
+    }
+}
+
+void TextEdit::CursorPositionFontStatusMarked()
+{
+    const QTextCursor cursor = m_view->textCursor();
+    m_toolBar->showFormat(lctrlsex::toolbarFormatAt(cursor));
+    if (!cursor.hasSelection() && lctrlsex::isField(cursor.charFormat())) {
+        m_view->setCurrentCharFormat(lctrlsex::formatBehind(cursor.charFormat()));
+    }
+}
+
+/** Before a key reaches an emptied document: the tool bar's look, in white, with its spacing. */
+void TextEdit::rebuildTypingFormat()
+{
+    m_textColor = Qt::white;
+    const lctrlsex::TypingStyle style = m_toolBar->typingStyle(m_textColor);
+    m_toolBar->showTextColor(m_textColor);
+    if (m_singleLine) {
+        m_format->setTypingFormat(style);
+        return;
+    }
+    // Kept on purpose because it differs from the spacing control: an integer eighth here.
+    const int value = m_toolBar->wordSpacing();
+    const int spacing = value < 0 ? value / 8 : isWordSpacing(value) ? value : 0;
+    m_format->setTypingFormat(style, spacing);
+    if (m_view->textCursor().block().length() == 1) { // a paragraph with text keeps its height
+        m_format->setLineHeight(qMax(LeastLineSpacing, m_toolBar->lineSpacing()));
+    }
+}
+
+/** After a change left an invisible format behind: the tool bar's look in the current colour. */
+void TextEdit::restoreTypingFormat()
+{
+    m_toolBar->showTextColor(m_textColor);
+    m_format->setTypingFormat(m_toolBar->typingStyle(m_textColor));
+}

@@ -1,0 +1,180 @@
+#include "lrichviewedit.h"
+
+#include "documentsetup.h"
+#include "itemdocument.h"
+#include "table/tableground.h"
+
+#include <QKeyEvent>
+#include <QMimeData>
+#include <QPaintEvent>
+#include <QPainter>
+#include <QScrollBar>
+
+namespace {
+
+constexpr int ChequerSide = 8;
+
+/** Keys of the tool bar that a text view of the platform would take for cursor movements. */
+bool isToolBarShortcut(const QKeyEvent &event)
+{
+    if (event.modifiers() != Qt::ControlModifier) {
+        return false;
+    }
+    switch (event.key()) {
+    case Qt::Key_B:
+    case Qt::Key_I:
+    case Qt::Key_U:
+    case Qt::Key_L:
+    case Qt::Key_E:
+    case Qt::Key_R:
+    case Qt::Key_J:
+        return true;
+    default:
+        return false;
+    }
+}
+
+} // namespace
+
+LRichViewEdit::LRichViewEdit(QWidget *parent)
+    : QTextEdit(parent)
+    , m_document(new lctrlsex::ItemDocument(this))
+{
+    m_document->setUndoRedoEnabled(true);
+    setDocument(m_document);
+    setFrameShape(QFrame::NoFrame);
+    // The screen draws text without a colour of its own in black, in every palette.
+    QPalette colors = palette();
+    colors.setColor(QPalette::Text, Qt::black);
+    setPalette(colors);
+}
+
+void LRichViewEdit::load(const QString &html, const lctrlsex::TextSettings &settings)
+{
+    m_document->clearForView(settings);
+    // Only the view's own way in leaves the cursor at the start without laying out everything.
+    setHtml(html);
+    setTextCursor(QTextCursor(m_document)); // one that has the format of the text
+    lctrlsex::applyLetterSpacing(m_document, settings);
+    m_document->clearUndoRedoStacks();
+}
+
+void LRichViewEdit::setItemSize(const QSize &size)
+{
+    m_itemSize = size;
+    // A page size of the document would be undone by the next resize; this is not.
+    if (size.width() > 0) {
+        setLineWrapColumnOrWidth(size.width());
+        setLineWrapMode(QTextEdit::FixedPixelWidth);
+    } else {
+        setLineWrapMode(QTextEdit::WidgetWidth);
+    }
+    viewport()->update();
+}
+
+void LRichViewEdit::setGround(const QColor &color, bool isTransparent)
+{
+    m_isTransparent = isTransparent;
+    setStyleSheet(isTransparent ? QStringLiteral("QTextEdit { background-color: transparent }")
+                                : QStringLiteral("QTextEdit { background-color: rgb(%1, %2, %3) }")
+                                      .arg(color.red())
+                                      .arg(color.green())
+                                      .arg(color.blue()));
+    // An opaque viewport keeps what lies behind it from being painted for each blink of the cursor.
+    QPalette ground = viewport()->palette();
+    ground.setColor(QPalette::Base, color);
+    viewport()->setPalette(ground);
+    viewport()->setAutoFillBackground(!isTransparent);
+    viewport()->update();
+}
+
+void LRichViewEdit::setTableSettings(const LUM_EditInterface::LTableProperties &settings)
+{
+    m_table = settings;
+}
+
+bool LRichViewEdit::event(QEvent *event)
+{
+    if (event->type() == QEvent::ShortcutOverride &&
+        isToolBarShortcut(*static_cast<QKeyEvent *>(event))) {
+        event->ignore();
+        return true;
+    }
+    return QTextEdit::event(event);
+}
+
+void LRichViewEdit::changeEvent(QEvent *event)
+{
+    // The text's default font is the item's, whatever font the widget gets.
+    const QFont font = document()->defaultFont();
+    QTextEdit::changeEvent(event);
+    if (document()->defaultFont() != font) {
+        document()->setDefaultFont(font);
+    }
+}
+
+void LRichViewEdit::paintEvent(QPaintEvent *event)
+{
+    if (m_isTransparent) {
+        paintChequers();
+    }
+    paintTableGrounds(event->rect());
+    QTextEdit::paintEvent(event);
+    paintPageEdges(event->rect());
+}
+
+void LRichViewEdit::paintChequers()
+{
+    static const QPixmap tile = [] {
+        QPixmap pixmap(2 * ChequerSide, 2 * ChequerSide);
+        pixmap.fill(QColor(88, 88, 88));
+        QPainter painter(&pixmap);
+        painter.fillRect(0, 0, ChequerSide, ChequerSide, QColor(102, 102, 102));
+        painter.fillRect(ChequerSide, ChequerSide, ChequerSide, ChequerSide, QColor(102, 102, 102));
+        return pixmap;
+    }();
+    QPainter(viewport()).drawTiledPixmap(viewport()->rect(), tile);
+}
+
+void LRichViewEdit::paintTableGrounds(const QRect &region)
+{
+    const QPoint scrolled(horizontalScrollBar()->value(), verticalScrollBar()->value());
+    QPainter painter(viewport());
+    painter.translate(-scrolled);
+    lctrlsex::drawTableGrounds(&painter, *m_document, region.translated(scrolled));
+}
+
+void LRichViewEdit::paintPageEdges(const QRect &region)
+{
+    if (m_itemSize.isEmpty()) {
+        return;
+    }
+    const int left = -horizontalScrollBar()->value();
+    const int top = -verticalScrollBar()->value();
+    const int right = left + m_itemSize.width();
+    const int height = m_itemSize.height();
+    int edge = top + qMax(1, (region.top() - top + height - 1) / height) * height;
+    if (region.right() < right && region.bottom() < edge) {
+        return; // a blinking cursor asks for no edge
+    }
+    QPainter painter(viewport());
+    painter.fillRect(QRect(QPoint(right, region.top()), region.bottomRight()),
+                     palette().color(QPalette::Window));
+    painter.setPen(QPen(QColor(160, 160, 160), 0, Qt::DashLine));
+    painter.drawLine(right, 0, right, viewport()->height());
+    for (; edge <= region.bottom(); edge += height) {
+        painter.drawLine(left, edge, right, edge);
+    }
+}
+
+bool LRichViewEdit::canInsertFromMimeData(const QMimeData *source) const
+{
+    return source->hasText();
+}
+
+void LRichViewEdit::insertFromMimeData(const QMimeData *source)
+{
+    if (!isReadOnly() && source->hasText()) {
+        emit InsertCopyText(source->text());
+    }
+}
