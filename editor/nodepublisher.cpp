@@ -114,9 +114,19 @@ NodePublisher::Pushed NodePublisher::push()
 {
     const QPointer<LTextEffectNode> node = m_node;
     const int attachment = m_attachment;
-    if (!m_isLoaded || node.isNull() || m_keepsStored) {
-        return Nothing;
+    if (!m_isLoaded || node.isNull() || m_keepsStored || m_pushing == attachment) {
+        return Nothing; // an announcement of a push may ask for another one
     }
+    m_pushing = attachment;
+    const Pushed result = pushNow(node, attachment);
+    if (m_pushing == attachment) {
+        m_pushing = 0;
+    }
+    return result;
+}
+
+NodePublisher::Pushed NodePublisher::pushNow(const QPointer<LTextEffectNode> &node, int attachment)
+{
     const bool isStoredAsIs =
         !isEdited() && nodeCall(node, &LTextEffectNode::GetRawHtmlText) == m_rawText;
     if (!isStill(node, attachment) || (isStoredAsIs && !m_forceRedraw)) {
@@ -138,7 +148,7 @@ bool NodePublisher::storeTexts(const QPointer<LTextEffectNode> &node, int attach
     const QString raw = encodeDocument(html);
     m_revision = m_view->document()->revision();
     const bool isSame = raw == nodeCall(node, &LTextEffectNode::GetRawHtmlText);
-    m_rawText = raw; // before anything is announced: an announcement may come back here
+    m_rawText = raw;
     if (isSame || !isStill(node, attachment)) {
         return false;
     }

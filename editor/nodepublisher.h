@@ -78,6 +78,7 @@ private:
     {
         return !node.isNull() && attachment == m_attachment;
     }
+    Pushed pushNow(const QPointer<LTextEffectNode> &node, int attachment);
     bool storeTexts(const QPointer<LTextEffectNode> &node, int attachment);
     void announce(const QPointer<LTextEffectNode> &node, int attachment);
     [[nodiscard]] static QImage pageFile(const QStringList &files, int page);
@@ -87,6 +88,7 @@ private:
     LRichViewEdit *m_view;
     QPointer<LTextEffectNode> m_node;
     int m_attachment = 0; ///< Counts attach(), so that a node is told from itself attached anew.
+    int m_pushing = 0;    ///< The attachment whose push is under way; 0: none.
     PageRenderer m_renderer;
     PagePosition m_position;
     QString m_rawText; ///< What the node holds as long as nobody else writes it.
