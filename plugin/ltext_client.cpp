@@ -15,6 +15,7 @@
 #include <QLineEdit>
 #include <QLocale>
 #include <QToolButton>
+#include <QVector>
 
 namespace Lum {
 namespace LTextPlugin {
@@ -176,9 +177,10 @@ LTextEffectNode *LTextClient::TextNodeOf(LFrameNode *frame)
     if (!frameNode) {
         return nullptr;
     }
-    const QList<LNode *> children = frameNode->ChildNodes();
-    for (LNode *child : children) {
-        if (child->TypeText() == wanted) {
+    const QList<LNode *> nodes = frameNode->ChildNodes();
+    const QVector<QPointer<LNode>> children(nodes.cbegin(), nodes.cend());
+    for (const QPointer<LNode> &child : children) {
+        if (child && child->TypeText() == wanted) {
             return qobject_cast<LTextEffectNode *>(child);
         }
     }
