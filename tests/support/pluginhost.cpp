@@ -27,19 +27,18 @@ void catchDead(QtMsgType type, const QMessageLogContext &context, const QString 
 Lum::INodeClient *loadedClient()
 {
     using Accessor = Lum::INodeClient *(*)();
-    static Lum::INodeClient *const client = []() -> Lum::INodeClient * {
+    static const Accessor accessor = []() -> Accessor {
         FontFolder::fill();
         QLibrary library(QStringLiteral(LCTRLSEX_PLUGIN));
         // Lum::LTextPlugin::LTextClient::instance()
-        const auto accessor = reinterpret_cast<Accessor>(
+        const auto resolved = reinterpret_cast<Accessor>(
             library.resolve("_ZN3Lum11LTextPlugin11LTextClient8instanceEv"));
-        if (accessor == nullptr) {
+        if (resolved == nullptr) {
             qWarning() << library.errorString();
-            return nullptr;
         }
-        return accessor();
+        return resolved;
     }();
-    return client;
+    return accessor != nullptr ? accessor() : nullptr;
 }
 
 DeadConnections::DeadConnections()

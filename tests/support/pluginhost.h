@@ -8,7 +8,8 @@ class INodeClient;
 
 /**
  * The client of the plug-in library, loaded at run time through its exported accessor as any host
- * does. Null, with a warning, when that fails. The font folder is filled first.
+ * does. Null, with a warning, when that fails. The font folder is filled first. Another one when
+ * the window that the client lay in was deleted.
  */
 [[nodiscard]] Lum::INodeClient *loadedClient();
 
