@@ -1,6 +1,8 @@
 #!/bin/sh
 # Builds the stand-alone host and runs it on the demo programme.
-#   ./run.sh                     render the demo programme and print the page files
+#   ./run.sh                     with a display: open the workbench on the demo programme;
+#                                without one: render it and print the page files
+#   ./run.sh workbench FILE ...  the workbench with its options
 #   ./run.sh render FILE ...     any subcommand of pagerender, with its options
 #   ./run.sh --help              what the subcommands are
 set -eu
@@ -12,7 +14,7 @@ build="$root/build/release"
 
 log="$build.log"
 mkdir -p "$build"
-[ -x "$build/bin/pagerender" ] || echo "Building for the first time; this takes a minute or two." >&2
+[ -x "$build/bin/workbench" ] || echo "Building for the first time; this takes some minutes." >&2
 if ! { [ -f "$build/build.ninja" ] || (cd "$root" && cmake --preset release); } >"$log" 2>&1 ||
    ! cmake --build "$build" >>"$log" 2>&1; then
     cat "$log" >&2
@@ -20,7 +22,13 @@ if ! { [ -f "$build/build.ninja" ] || (cd "$root" && cmake --preset release); } 
     exit 1
 fi
 
-if [ $# -gt 0 ]; then
+demo="$root/examples/demo.programme.json"
+if [ "${1-}" = workbench ]; then
+    shift
+    exec "$build/bin/workbench" "$@"
+elif [ $# -gt 0 ]; then
     exec "$build/bin/pagerender" "$@"
+elif [ -n "${DISPLAY-}${WAYLAND_DISPLAY-}" ]; then
+    exec "$build/bin/workbench" "$demo"
 fi
-exec "$build/bin/pagerender" render "$root/examples/demo.programme.json" -o "$root/out/demo"
+exec "$build/bin/pagerender" render "$demo" -o "$root/out/demo"

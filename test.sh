@@ -9,7 +9,7 @@ cd "$root"
 
 cmake/install-dependencies.sh g++ cmake ninja-build ccache pkg-config git qtbase5-dev qttools5-dev-tools qttranslations5-l10n \
     libfontconfig1-dev fonts-dejavu-core fonts-liberation2 fonts-wqy-zenhei libbenchmark-dev \
-    clang-format clang-tidy strace
+    clang-format clang-tidy strace xvfb openbox xdotool imagemagick
 
 step() { printf '\n== %s\n' "$1"; }
 

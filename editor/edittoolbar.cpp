@@ -115,7 +115,7 @@ void EditToolBar::addEditActions(const QStringList &fonts)
     }
     m_comboFontAction->comboBox()->setSizeAdjustPolicy(
         QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    m_comboFontAction->comboBox()->setMinimumContentsLength(11);
+    m_comboFontAction->comboBox()->setMinimumContentsLength(9);
     m_toolBar->addAction(m_comboFontAction);
     connect(m_comboFontAction->comboBox(), SIGNAL(currentTextChanged(QString)), m_receiver,
             SLOT(textFamily(QString)));
@@ -132,6 +132,11 @@ void EditToolBar::addEditActions(const QStringList &fonts)
             SLOT(textSize(QString)));
     addSpacer(Space);
     m_toolBar->addSeparator();
+    for (ComboBoxAction *box : {m_comboFontAction, m_comboSizeAction}) {
+        box->comboBox()->setStyleSheet(
+            QStringLiteral("QToolButton{border: 2px inset white;"
+                           "border-top: 2px solid #a0a0a0;border-left: 2px solid #a0a0a0;}"));
+    }
 }
 
 QAction *EditToolBar::make(const Entry &entry)

@@ -3,6 +3,7 @@
 #include "rasterimage.h"
 
 #include <QFile>
+#include <QFont>
 #include <QUrl>
 
 namespace lctrlsex {
@@ -47,6 +48,7 @@ void ItemDocument::clearForView(const TextSettings &settings)
     clear();
     m_denied.clear();
     m_images.clear();
+    setDefaultFont(QFont()); // not that of the item before
     prepareView(this, settings);
 }
 

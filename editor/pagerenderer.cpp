@@ -2,6 +2,7 @@
 
 #include "contentplacement.h"
 #include "pagelines.h"
+#include "table/tableground.h"
 
 #include <QAbstractTextDocumentLayout>
 #include <QPainter>
@@ -32,6 +33,7 @@ void drawContents(QTextDocument *document, QPainter *painter, const QRectF &show
     context.clip = shown;
     painter->setRenderHint(QPainter::TextAntialiasing, true);
     painter->setClipRect(shown);
+    drawTableGrounds(painter, *document, shown);
     document->documentLayout()->draw(painter, context);
 }
 

@@ -50,9 +50,12 @@ void TextEdit::InsertTable()
 
 void TextEdit::TablePropModfy()
 {
-    LUM_EditInterface::LTableProperties record = m_table->record();
+    const LUM_EditInterface::LTableProperties present = m_table->record();
+    LUM_EditInterface::LTableProperties record = present;
     if (m_node != nullptr) {
         record = m_node->GetTableProperties();
+        record.rows = present.rows; // a stale number of rows would throw rows away
+        record.columns = present.columns;
     }
     ModfTablePropertiesed(&record);
 }

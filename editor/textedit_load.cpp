@@ -10,6 +10,7 @@
 #include "nodepublisher.h"
 #include "textedit.h"
 
+#include <QFontInfo>
 #include <QTextDocument>
 
 using lctrlsex::nodeCall;
@@ -115,7 +116,7 @@ void TextEdit::InitTextEditor()
     if (!isAttached(attachment)) {
         return;
     }
-    if (isNewItem || isEmpty) {
+    if ((isNewItem || isEmpty) && m_view->document()->isEmpty()) {
         m_textColor = Qt::white;
         m_view->setTextColor(Qt::white);
     }
@@ -154,7 +155,8 @@ void TextEdit::InitFontSettings()
     const QString family = nodeCall(m_node, &LTextEffectNode::GetFontFamily);
     const int size = nodeCall(m_node, &LTextEffectNode::GetFontSize);
     const int spacing = nodeCall(m_node, &LTextEffectNode::GetFontSpace);
-    m_toolBar->showFamily(family.isEmpty() ? m_view->document()->defaultFont().family() : family);
+    m_toolBar->showFamily(family.isEmpty() ? QFontInfo(m_view->document()->defaultFont()).family()
+                                           : family);
     m_toolBar->showSize(size);
     m_toolBar->showWordSpacing(spacing);
 }

@@ -1,6 +1,7 @@
 #include "toolbarformat.h"
 
 #include <QFont>
+#include <QFontInfo>
 #include <QTextBlockFormat>
 #include <QTextCursor>
 #include <QTextDocument>
@@ -49,8 +50,9 @@ ToolbarFormat toolbarFormatAt(const QTextCursor &cursor)
     const QTextCharFormat text = cursor.charFormat();
     const QTextBlockFormat block = cursor.blockFormat();
     const QFont fallback = cursor.document()->defaultFont();
-    shown.family =
-        text.hasProperty(QTextFormat::FontFamily) ? text.fontFamily() : fallback.family();
+    // A default font may be an alias; what shows is a family that is installed.
+    shown.family = text.hasProperty(QTextFormat::FontFamily) ? text.fontFamily()
+                                                             : QFontInfo(fallback).family();
     shown.pointSize = pointSize(text, fallback);
     shown.bold = text.fontWeight() >= QFont::Bold;
     shown.italic = text.fontItalic();

@@ -309,6 +309,10 @@ void LTextClient::on_GUID_editingFinished()
 
 void LTextClient::AttributesDestroyed()
 {
+    // While the panel says that it goes the pointer to it still stands.
+    if (sender() != m_form->TextAttributesBg) {
+        return;
+    }
     m_form->buildAttributes();
     PreparePanel();
     ConnectPanel();

@@ -2,6 +2,7 @@
 
 #include "documentsetup.h"
 #include "itemdocument.h"
+#include "table/tableground.h"
 
 #include <QKeyEvent>
 #include <QMimeData>
@@ -53,6 +54,7 @@ void LRichViewEdit::load(const QString &html, const lctrlsex::TextSettings &sett
     m_document->clearForView(settings);
     // Only the view's own way in leaves the cursor at the start without laying out everything.
     setHtml(html);
+    setTextCursor(QTextCursor(m_document)); // one that has the format of the text
     lctrlsex::applyLetterSpacing(m_document, settings);
     m_document->clearUndoRedoStacks();
 }
@@ -103,12 +105,12 @@ bool LRichViewEdit::event(QEvent *event)
 
 void LRichViewEdit::changeEvent(QEvent *event)
 {
-    if (event->type() == QEvent::FontChange || event->type() == QEvent::ApplicationFontChange) {
-        // The text's default font is the item's and not the widget's.
-        QAbstractScrollArea::changeEvent(event);
-        return;
-    }
+    // The text's default font is the item's, whatever font the widget gets.
+    const QFont font = document()->defaultFont();
     QTextEdit::changeEvent(event);
+    if (document()->defaultFont() != font) {
+        document()->setDefaultFont(font);
+    }
 }
 
 void LRichViewEdit::paintEvent(QPaintEvent *event)
@@ -116,6 +118,7 @@ void LRichViewEdit::paintEvent(QPaintEvent *event)
     if (m_isTransparent) {
         paintChequers();
     }
+    paintTableGrounds(event->rect());
     QTextEdit::paintEvent(event);
     paintPageEdges(event->rect());
 }
@@ -133,6 +136,14 @@ void LRichViewEdit::paintChequers()
     QPainter(viewport()).drawTiledPixmap(viewport()->rect(), tile);
 }
 
+void LRichViewEdit::paintTableGrounds(const QRect &region)
+{
+    const QPoint scrolled(horizontalScrollBar()->value(), verticalScrollBar()->value());
+    QPainter painter(viewport());
+    painter.translate(-scrolled);
+    lctrlsex::drawTableGrounds(&painter, *m_document, region.translated(scrolled));
+}
+
 void LRichViewEdit::paintPageEdges(const QRect &region)
 {
     if (m_itemSize.isEmpty()) {
@@ -148,7 +159,7 @@ void LRichViewEdit::paintPageEdges(const QRect &region)
     }
     QPainter painter(viewport());
     painter.fillRect(QRect(QPoint(right, region.top()), region.bottomRight()),
-                     QColor(128, 128, 128, 90));
+                     palette().color(QPalette::Window));
     painter.setPen(QPen(QColor(160, 160, 160), 0, Qt::DashLine));
     painter.drawLine(right, 0, right, viewport()->height());
     for (; edge <= region.bottom(); edge += height) {

@@ -76,6 +76,7 @@ protected:
 
 private:
     void paintChequers();
+    void paintTableGrounds(const QRect &region);
     void paintPageEdges(const QRect &region);
 
     Q_DISABLE_COPY(LRichViewEdit)

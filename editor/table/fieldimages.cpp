@@ -59,7 +59,7 @@ QFont fontOf(const TypingStyle &style)
  */
 QSize lineSize(const QString &line, const QFontMetrics &metrics, bool isUnderlined)
 {
-    const QRect ink = metrics.boundingRect(line);
+    const QRect ink = metrics.tightBoundingRect(line);
     const int below =
         isUnderlined ? metrics.descent() : qBound(0, ink.bottom() + 1, metrics.descent());
     const int height = qMax(1, metrics.ascent() + below);

@@ -1,5 +1,6 @@
 #include "tableoperations.h"
 
+#include <QTextBlock>
 #include <QTextCursor>
 #include <QTextDocument>
 #include <QTextDocumentFragment>
@@ -68,22 +69,30 @@ bool isEmpty(const QTextTableCell &cell)
     return cell.firstPosition() == cell.lastPosition();
 }
 
-/** Moves what @p from holds behind what @p to holds. */
+/** Moves what @p from holds behind what @p to holds; whole paragraphs keep their look. */
 void moveContents(const QTextTableCell &from, const QTextTableCell &to)
 {
     if (isEmpty(from)) {
         return;
     }
     QTextCursor source = from.firstCursorPosition();
-    const QTextBlockFormat firstBlock = source.blockFormat();
     source.setPosition(from.lastPosition(), QTextCursor::KeepAnchor);
     const QTextDocumentFragment contents = source.selection();
+    QVector<QTextBlockFormat> formats;
+    for (QTextBlock block = from.firstCursorPosition().block();
+         block.isValid() && block.position() <= from.lastPosition(); block = block.next()) {
+        formats.append(block.blockFormat());
+    }
     source.removeSelectedText();
     QTextCursor target = to.lastCursorPosition();
-    const bool startsCell = isEmpty(to);
+    const int start = target.position();
     target.insertFragment(contents);
-    if (startsCell) {
-        to.firstCursorPosition().setBlockFormat(firstBlock);
+    target.setPosition(start);
+    for (const QTextBlockFormat &format : qAsConst(formats)) {
+        if (target.block().position() >= start) {
+            target.setBlockFormat(format);
+        }
+        target.movePosition(QTextCursor::NextBlock);
     }
 }
 

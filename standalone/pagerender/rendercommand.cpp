@@ -97,7 +97,7 @@ public:
                                    .arg(renderer.pageCount()));
             const QString number = QStringLiteral("-%1.png").arg(i + 1);
             const QString file = QDir(m_line.outputFolder).filePath(stem + number);
-            const QString reason = writePageFile(renderer.finishedPage(i), file);
+            const QString reason = player::writePageFile(renderer.finishedPage(i), file);
             if (!reason.isEmpty()) {
                 m_report->problem(
                     {Problem::Error, file, reason,
@@ -111,7 +111,7 @@ public:
 private:
     const CommandLine &m_line;
     Report *m_report;
-    PageNames m_names;
+    player::PageNames m_names;
 };
 
 } // namespace

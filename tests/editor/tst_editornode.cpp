@@ -21,6 +21,7 @@ private slots:
     void loadingWritesNothing();
     void aNewItemStartsWhiteAndUntouched();
     void theToolBarShowsTheNode();
+    void theToolBarShowsTheStartOfALoadedText();
     void rebindingKeepsWhatWasTyped();
     void aReturningAnnouncementDoesNotRecur();
     void brokenDocumentsAreKept_data();
@@ -204,6 +205,21 @@ void TestEditorNode::theToolBarShowsTheNode()
     item.settle();
     QVERIFY(item.stored().contains("font-family:'Nowhere Sans'; font-size:44pt"));
     QCOMPARE(int(item.view->alignment()), int(Qt::AlignHCenter));
+}
+
+void TestEditorNode::theToolBarShowsTheStartOfALoadedText()
+{
+    EditorFixture item;
+    item.client->Finish();
+    item.store("<p align=right><span style=\"font-size:15pt; color:#ff0000\">red</span></p>");
+    item.node->SetHtmlText(QString()); // as a programme written by hand has it
+    item.open();
+    QCOMPARE(item.combo("comboSize")->currentText(), QString("15"));
+    QVERIFY(item.action("actionAlignRight")->isChecked());
+    const QString family = item.combo("comboFont")->currentText();
+    QVERIFY2(!family.contains("missing"), qPrintable(family));
+    item.type("x");
+    QCOMPARE(item.formatAt(0).foreground().color(), QColor(Qt::red));
 }
 
 void TestEditorNode::rebindingKeepsWhatWasTyped()

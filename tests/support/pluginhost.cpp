@@ -3,8 +3,10 @@
 #include "fontfolder.h"
 #include "inodeclient.h"
 
+#include <QApplication>
 #include <QDebug>
 #include <QLibrary>
+#include <QWidget>
 
 namespace {
 
@@ -27,18 +29,44 @@ void catchDead(QtMsgType type, const QMessageLogContext &context, const QString 
 Lum::INodeClient *loadedClient()
 {
     using Accessor = Lum::INodeClient *(*)();
-    static const Accessor accessor = []() -> Accessor {
+    static const auto accessor = []() -> Accessor {
         FontFolder::fill();
         QLibrary library(QStringLiteral(LCTRLSEX_PLUGIN));
         // Lum::LTextPlugin::LTextClient::instance()
-        const auto resolved = reinterpret_cast<Accessor>(
-            library.resolve("_ZN3Lum11LTextPlugin11LTextClient8instanceEv"));
-        if (resolved == nullptr) {
+        const auto symbol = library.resolve("_ZN3Lum11LTextPlugin11LTextClient8instanceEv");
+        if (symbol == nullptr) {
             qWarning() << library.errorString();
         }
-        return resolved;
+        return reinterpret_cast<Accessor>(symbol);
     }();
     return accessor != nullptr ? accessor() : nullptr;
+}
+
+QObject *clientObject(const char *name)
+{
+    const QString objectName = QString::fromLatin1(name);
+    if (auto *const found = loadedClient()->findChild<QObject *>(objectName)) {
+        return found;
+    }
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    for (const QWidget *window : windows) {
+        if (auto *const found = window->findChild<QObject *>(objectName)) {
+            return found;
+        }
+    }
+    return nullptr;
+}
+
+int listeners(const QObject *sender, const char *signal)
+{
+    // Opens a protected operation without a subclass of every sender.
+    struct Opened : QObject
+    {
+        using QObject::receivers;
+    };
+    const QByteArray coded =
+        QByteArray::number(QSIGNAL_CODE) + QMetaObject::normalizedSignature(signal);
+    return (sender->*(&Opened::receivers))(coded.constData());
 }
 
 DeadConnections::DeadConnections()

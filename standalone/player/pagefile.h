@@ -4,6 +4,8 @@
 #include <QSet>
 #include <QString>
 
+namespace player {
+
 /** Gives every page a file name that file systems take and no two items share. */
 class PageNames
 {
@@ -20,3 +22,5 @@ private:
  * reason when it cannot be written, else empty.
  */
 [[nodiscard]] QString writePageFile(const QImage &image, const QString &fileName);
+
+} // namespace player

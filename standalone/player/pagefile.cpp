@@ -5,6 +5,8 @@
 #include <QBuffer>
 #include <QImageWriter>
 
+namespace player {
+
 namespace {
 
 constexpr int LongestStem = 80;
@@ -47,3 +49,5 @@ QString writePageFile(const QImage &image, const QString &fileName)
     QImageWriter writer(&buffer, "png");
     return writer.write(image) ? replaceFile(fileName, bytes) : writer.errorString();
 }
+
+} // namespace player

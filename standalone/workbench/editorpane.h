@@ -1,0 +1,87 @@
+#pragma once
+
+#include "ltexteffectnode.h"
+#include "pluginloader.h"
+
+#include <QPointer>
+#include <QScrollArea>
+#include <QTextEdit>
+#include <QWidget>
+
+class QLabel;
+class QPushButton;
+class QStackedLayout;
+
+namespace workbench {
+
+class ItemPages;
+class ProgrammeDocument;
+
+/**
+ * The centre of the window: the plug-in's editor bound to one text item, or in its place a page
+ * that says why there is none.
+ *
+ * The plug-in owns its widgets; they are only lent to this window, are never deleted here, and are
+ * given back before this is destroyed.
+ */
+class EditorPane : public QWidget
+{
+    Q_OBJECT
+
+public:
+    EditorPane(ProgrammeDocument *document, ItemPages *pages, const LoadedPlugin &plugin,
+               QWidget *parent = nullptr);
+    ~EditorPane() override;
+
+    /** Binds the plug-in to an item; null lets go of the one before. */
+    void bind(LTextEffectNode *node);
+    /** Binds the plug-in to the bound item anew, after what its node stores was changed. */
+    void rebind();
+    [[nodiscard]] LTextEffectNode *node() const { return m_node; }
+    /** Whether there is an editor at all. */
+    [[nodiscard]] bool hasPlugin() const { return m_plugin.client != nullptr; }
+
+    /** Where the plug-in's attributes are shown; null once it was destroyed elsewhere. */
+    [[nodiscard]] QScrollArea *attributesArea() const { return m_attributesArea; }
+    /** The view of the text, null without a plug-in. */
+    [[nodiscard]] QTextEdit *textView() const;
+    void focusText();
+
+signals:
+    /** The user asked for an item where there is none. */
+    void addItemWanted();
+    /** The user wants to leave the editor. */
+    void leaveWanted();
+
+protected:
+    void changeEvent(QEvent *event) override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    QWidget *buildEmptyPage();
+    QWidget *buildFaultPage();
+    void letGo();
+    void showAttributes();
+    void giveBack();
+    void retranslate();
+
+    ProgrammeDocument *m_document;
+    ItemPages *m_pages;
+    LoadedPlugin m_plugin;
+    QPointer<QWidget> m_client;
+    QPointer<QWidget> m_attributes;
+    QPointer<QTextEdit> m_filtered;
+    QPointer<LTextEffectNode> m_node;
+    bool m_isBound = false; ///< Outlives the node: the plug-in is to be told even then.
+
+    QStackedLayout *m_stack;
+    QWidget *m_empty;
+    QLabel *m_emptyText;
+    QPushButton *m_addItem;
+    QWidget *m_fault;
+    QLabel *m_faultText;
+    QPointer<QScrollArea> m_attributesArea;
+    QLabel *m_noAttributes;
+};
+
+} // namespace workbench

@@ -1,0 +1,227 @@
+#include "itempages.h"
+
+#include "itemcheck.h"
+#include "itemrenderer.h"
+#include "ltexteffectnode.h"
+#include "pagefiles.h"
+#include "programmedocument.h"
+#include "treewatch.h"
+
+#include <QElapsedTimer>
+#include <QSet>
+
+namespace workbench {
+
+namespace {
+
+constexpr int SettleTime = 250;
+constexpr int LongestSettleTime = 2000;
+constexpr int CacheBytes = 64 * 1024 * 1024;
+// A renderer holds a document that is laid out.
+constexpr int MostRenderers = 8;
+
+/** Attributes of an item that its pages do not depend on: names, and how it is played. */
+bool isShown(const QString &key)
+{
+    enum Owner { LNode, LControllerNode, LScreenNode, LEffectNode, LTextEffectNode };
+    static const QSet<QString> hidden = [] {
+        QSet<QString> keys{QStringLiteral("Name"), QStringLiteral("PlayText")};
+#define NODE_ATTRIBUTE(Class, Type, Getter, Setter, Key, Default)                                  \
+    if (Class == LEffectNode || Class == LNode) {                                                  \
+        keys.insert(QStringLiteral(Key));                                                          \
+    }
+#include "nodeattributes.def"
+#undef NODE_ATTRIBUTE
+        return keys;
+    }();
+    return !hidden.contains(key);
+}
+
+QString placeOf(const LNode *node)
+{
+    QString place = node->name();
+    for (const LNode *above = node->ParentNode(); above && above->ParentNode();
+         above = above->ParentNode()) {
+        place.prepend(above->name() + QLatin1Char('/'));
+    }
+    return place;
+}
+
+bool isSelfOrBelow(const LNode *node, const LNode *above)
+{
+    while (node && node != above) {
+        node = node->ParentNode();
+    }
+    return node != nullptr;
+}
+
+} // namespace
+
+ItemPages::ItemPages(ProgrammeDocument *document, QObject *parent)
+    : QObject(parent)
+    , m_document(document)
+    , m_pages(CacheBytes)
+    , m_files(new PageFiles)
+{
+    m_settle.setSingleShot(true);
+    m_settle.setInterval(SettleTime);
+    connect(&m_settle, &QTimer::timeout, this, &ItemPages::announce);
+    const TreeWatch *const tree = document->tree();
+    connect(tree, &TreeWatch::attributeChanged, this, &ItemPages::onAttributeChanged);
+    connect(tree, &TreeWatch::gone, this, &ItemPages::forget);
+    connect(tree, &TreeWatch::childInserted, this,
+            [this](LNode *, LNode *child) { invalidateBelow(child); });
+    connect(document, &ProgrammeDocument::aboutToReplace, this, [this] {
+        watch(nullptr);
+        m_items.clear();
+        m_recent.clear();
+        m_pages.clear();
+    });
+}
+
+ItemPages::~ItemPages() = default;
+
+void ItemPages::watch(LTextEffectNode *node)
+{
+    LTextEffectNode *const item = m_document->tree()->contains(node) ? node : nullptr;
+    if (item == m_watched) {
+        return;
+    }
+    m_files->clear();
+    m_watched = item;
+    if (item) {
+        itemOf(item).isChanged = true;
+        m_settle.start();
+    }
+}
+
+void ItemPages::onAttributeChanged(LNode *node, const QString &key)
+{
+    if (isShown(key)) {
+        invalidateBelow(node);
+    }
+}
+
+void ItemPages::invalidateBelow(LNode *node)
+{
+    bool isWatched = false;
+    for (Item &item : m_items) {
+        if (isSelfOrBelow(item.node, node)) {
+            invalidate(&item);
+            isWatched = isWatched || item.node == m_watched;
+        }
+    }
+    if (isWatched) {
+        m_files->clear();
+    }
+}
+
+void ItemPages::invalidate(Item *item)
+{
+    item->renderer.reset();
+    item->generation = 0;
+    item->isChanged = true;
+    m_recent.removeAll(item->node.data());
+    m_settle.start();
+}
+
+ItemPages::Item &ItemPages::itemOf(LTextEffectNode *node)
+{
+    Item &item = m_items[node];
+    item.node = node;
+    return item;
+}
+
+void ItemPages::forget(LNode *node)
+{
+    m_items.remove(node);
+    m_recent.removeAll(node);
+    if (!m_watched) {
+        m_files->clear();
+    }
+}
+
+void ItemPages::announce()
+{
+    QVector<QPointer<LTextEffectNode>> changed;
+    for (Item &item : m_items) {
+        if (item.isChanged) {
+            item.isChanged = false;
+            changed.append(item.node);
+        }
+    }
+    if (m_watched && changed.contains(m_watched)) {
+        publish();
+    }
+    for (const QPointer<LTextEffectNode> &node : qAsConst(changed)) {
+        if (node) {
+            emit pagesChanged(node);
+        }
+    }
+}
+
+void ItemPages::publish()
+{
+    const QPointer<LTextEffectNode> node = m_watched;
+    QElapsedTimer timer;
+    timer.start();
+    renderer(node);
+    // Who types a very long text is not stopped at every breath by its being laid out.
+    m_settle.setInterval(qBound(SettleTime, int(timer.elapsed()) * 4, LongestSettleTime));
+    const std::shared_ptr<player::ItemRenderer> pages = m_items[node].renderer;
+    node->SetPageCount(pages ? pages->pageCount() : 0);
+    node->PageChanged();
+    // Who was told may have changed the node.
+    if (node && node == m_watched && pages && m_items.value(node).renderer == pages) {
+        m_files->start(node, pages);
+    }
+}
+
+player::ItemRenderer *ItemPages::renderer(LTextEffectNode *node)
+{
+    if (!m_document->tree()->contains(node)) {
+        return nullptr;
+    }
+    Item &item = itemOf(node);
+    if (!item.renderer) {
+        item.renderer = std::make_shared<player::ItemRenderer>(node, placeOf(node));
+        if (item.generation == 0) {
+            item.generation = m_nextGeneration++;
+        }
+    }
+    m_recent.removeAll(node);
+    m_recent.append(node);
+    while (m_recent.size() > MostRenderers) {
+        m_items[m_recent.takeFirst()].renderer.reset();
+    }
+    return item.renderer.get();
+}
+
+QImage ItemPages::page(LTextEffectNode *node, int index)
+{
+    const quint64 known = m_items.value(node).generation;
+    if (const QImage *kept = known ? m_pages.object({known, index}) : nullptr) {
+        return *kept;
+    }
+    player::ItemRenderer *const pages = renderer(node);
+    const QImage image = pages ? pages->finishedPage(index) : QImage();
+    if (!image.isNull()) {
+        m_pages.insert({m_items.value(node).generation, index}, new QImage(image),
+                       int(qMin<qint64>(image.sizeInBytes(), CacheBytes)));
+    }
+    return image;
+}
+
+int ItemPages::pageCount(LTextEffectNode *node)
+{
+    const player::ItemRenderer *const pages = renderer(node);
+    return pages ? pages->pageCount() : 0;
+}
+
+player::Problems ItemPages::problems(LTextEffectNode *node)
+{
+    player::ItemRenderer *const pages = renderer(node);
+    return pages ? pages->problems() + player::checkItem(pages) : player::Problems();
+}
+
+} // namespace workbench

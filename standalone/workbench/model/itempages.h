@@ -1,0 +1,88 @@
+#pragma once
+
+#include "problem.h"
+
+#include <QCache>
+#include <QHash>
+#include <QImage>
+#include <QObject>
+#include <QPair>
+#include <QPointer>
+#include <QTimer>
+
+#include <memory>
+
+class LNode;
+class LTextEffectNode;
+
+namespace player {
+class ItemRenderer;
+}
+
+namespace workbench {
+
+class PageFiles;
+class ProgrammeDocument;
+
+/**
+ * The pages of the document's text items, as the player makes them.
+ *
+ * What was made is kept until something that shows changes: the item's text, look or size, or the
+ * size of what is above it. Null nodes and those outside the document have no pages. GUI thread.
+ */
+class ItemPages : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit ItemPages(ProgrammeDocument *document, QObject *parent = nullptr);
+    ~ItemPages() override;
+
+    /**
+     * @p node is being edited: its page count is told to it, and its page files "DynamicData" are
+     * kept up to date: gone the moment that something changes, there again a quarter of a second
+     * after the last change, for texts that take long to lay out two seconds. Null watches none;
+     * the one watched before has no files any more.
+     */
+    void watch(LTextEffectNode *node);
+
+    /** Page @p index, from 0, as the screen shows it; null if there is none. */
+    [[nodiscard]] QImage page(LTextEffectNode *node, int index);
+    /** 0 when no page can be made. */
+    [[nodiscard]] int pageCount(LTextEffectNode *node);
+    /** Why the item is not shown as meant. */
+    [[nodiscard]] player::Problems problems(LTextEffectNode *node);
+
+signals:
+    /** The pages of an item that was asked for or is watched are other ones: ask again. */
+    void pagesChanged(LTextEffectNode *node);
+
+private:
+    struct Item
+    {
+        QPointer<LTextEffectNode> node;
+        std::shared_ptr<player::ItemRenderer> renderer; ///< Null when it must be made.
+        quint64 generation = 0;                         ///< Another one for other pages.
+        bool isChanged = false;                         ///< pagesChanged() is due.
+    };
+
+    void onAttributeChanged(LNode *node, const QString &key);
+    void invalidateBelow(LNode *node);
+    void invalidate(Item *item);
+    Item &itemOf(LTextEffectNode *node);
+    void forget(LNode *node);
+    void announce();
+    void publish();
+    player::ItemRenderer *renderer(LTextEffectNode *node);
+
+    ProgrammeDocument *const m_document;
+    QHash<const LNode *, Item> m_items;
+    QVector<const LNode *> m_recent;             ///< With a renderer, the one used last at the end.
+    QCache<QPair<quint64, int>, QImage> m_pages; ///< By generation and index; the cost is bytes.
+    QPointer<LTextEffectNode> m_watched;
+    std::unique_ptr<PageFiles> m_files;
+    QTimer m_settle;
+    quint64 m_nextGeneration = 1;
+};
+
+} // namespace workbench
