@@ -3,14 +3,12 @@
 #include "datasourceconfigmanager.h"
 #include "inodeclient.h"
 #include "ltranslation.h"
-#include "pluginhost.h"
 #include "slotcall.h"
 
 #include <QAbstractButton>
 #include <QAction>
 #include <QClipboard>
 #include <QComboBox>
-#include <QCoreApplication>
 #include <QDoubleSpinBox>
 #include <QGuiApplication>
 #include <QLineEdit>
@@ -20,97 +18,7 @@
 #include <QTextEdit>
 #include <QToolButton>
 
-Stage::Stage(Programme *own, Programme *foreign)
-    : item(own)
-    , other(foreign)
-    , client(loadedClient())
-{}
-
-void Stage::open(LNode *node)
-{
-    client->Init(node);
-    editor = client->GetClient()->findChild<QWidget *>("wgtTextEditor");
-    view = editor->findChild<QTextEdit *>("RichView");
-}
-
-void Stage::select(int from, int to) const
-{
-    QTextCursor cursor(view->document());
-    cursor.setPosition(from);
-    cursor.setPosition(to, QTextCursor::KeepAnchor);
-    view->setTextCursor(cursor);
-}
-
-void Stage::prepare(Operation::Start start)
-{
-    if (start == Operation::New) {
-        for (const char *key : {"Html", "RawHtml", "PlayText"}) {
-            item->item->RemoveAttribute(key);
-        }
-    }
-    if (start == Operation::Unbound || start == Operation::New) {
-        return;
-    }
-    open(item->item);
-    select(0, start == Operation::Bound ? 5 : 0);
-    if (start == Operation::Typing || start == Operation::Edited) {
-        select(3, 3);
-    }
-    if (start == Operation::Edited) {
-        view->textCursor().insertText("unsaved");
-    }
-    if (start == Operation::Emptied) {
-        view->selectAll();
-        view->textCursor().removeSelectedText();
-        drain();
-    }
-}
-
-void Stage::drain()
-{
-    constexpr int rounds = 4; // what is delivered may queue something again
-    for (int round = 0; round < rounds; ++round) {
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::MetaCall);
-    }
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-}
-
-QString richDocument()
-{
-    return "<p><span style=\"color:#ffffff\">alpha beta</span></p>"
-           "<p><img src=\"data://bindKey/Plant/Level.png\" title=\"Plant:Level\" "
-           "alt=\";Sans;16;0;0;0;#ffffff;\"/></p>"
-           "<table border=\"1\"><tr><td>one</td><td>two</td></tr>"
-           "<tr><td>three</td><td>four</td></tr></table>";
-}
-
-void setUpSources()
-{
-    DataSourceEntry entry;
-    entry.name = "Plant";
-    entry.type = DataSourceEntry::JsonFile;
-    entry.keys = {{"Level", DataSourceKey::Text, "17", true},
-                  {"Rows", DataSourceKey::RecordList, "[]", true}};
-    DataSourceConfig config;
-    config.sources = {entry};
-    DynamicDataSource delivered;
-    delivered.name = "Plant";
-    delivered.fields = {{"Level", "17", true}, {"Rows", "[]", true}};
-    DataSourceConfigManager::instance()->SetConfig(config);
-    DataSourceConfigManager::instance()->SetDynamicData({delivered});
-}
-
-void setUpBinding(LTextEffectNode *node)
-{
-    node->SetDataSource("Plant");
-    node->SetCalculation(R"([{"id":"1","key":"Sum","defaultValue":"3","expressions":[]}])");
-    node->SetSpanConditions(R"([{"id":"7","name":"Warm"}])");
-    node->SetPageCount(3);
-}
-
 namespace {
-
-using Start = Operation::Start;
 
 /** A child of the client, wherever it lies in it. */
 template <class Child>
@@ -147,13 +55,12 @@ void addSlots(QVector<Operation> *operations, const QMetaObject *meta, bool isEd
             continue;
         }
         const bool isEdited = followEdits.contains(method.name());
-        operations->append({QStringLiteral("slot %1").arg(QString::fromLatin1(method.name())),
-                            isEdited ? Operation::Edited : Operation::Bound,
-                            [index, isEditor](const Stage &stage) {
-                                QObject *receiver =
-                                    isEditor ? stage.editor : stage.client->GetClient();
-                                callSlot(receiver, index);
-                            }});
+        operations->append(
+            {QStringLiteral("slot %1").arg(QString::fromLatin1(method.name())),
+             isEdited ? Stage::Edited : Stage::Bound, [index, isEditor](const Stage &stage) {
+                 QObject *receiver = isEditor ? stage.editor : stage.client->GetClient();
+                 callSlot(receiver, index);
+             }});
     }
 }
 
@@ -162,7 +69,7 @@ void addActions(QVector<Operation> *operations, const Stage &stage)
     const QStringList names = namesOf<QAction>(
         stage, [](QAction *action) { return !action->isSeparator() && action->menu() == nullptr; });
     for (const QString &name : names) {
-        operations->append({"action " + name, Operation::Bound, [name](const Stage &on) {
+        operations->append({"action " + name, Stage::Bound, [name](const Stage &on) {
                                 childOf<QAction>(on, name)->trigger();
                             }});
     }
@@ -171,7 +78,7 @@ void addActions(QVector<Operation> *operations, const Stage &stage)
         return tool == nullptr || (tool->menu() == nullptr && tool->defaultAction() == nullptr);
     });
     for (const QString &name : buttons) {
-        operations->append({"button " + name, Operation::Bound, [name](const Stage &on) {
+        operations->append({"button " + name, Stage::Bound, [name](const Stage &on) {
                                 auto *button = childOf<QAbstractButton>(on, name);
                                 button->setEnabled(true); // such as those of pages, without pages
                                 button->click();
@@ -183,7 +90,7 @@ void addBoxes(QVector<Operation> *operations, const Stage &stage)
 {
     const auto add = [operations](const QString &name, auto *type, auto change) {
         using Box = std::remove_pointer_t<decltype(type)>;
-        operations->append({"box " + name, Operation::Bound, [name, change](const Stage &on) {
+        operations->append({"box " + name, Stage::Bound, [name, change](const Stage &on) {
                                 change(childOf<Box>(on, name));
                             }});
     };
@@ -211,24 +118,23 @@ void addKeys(QVector<Operation> *operations)
     struct Key
     {
         const char *name;
-        Start start;
+        Stage::Start start;
         Qt::Key key;
         Qt::KeyboardModifiers modifiers;
     };
-    static const Key keys[] = {
-        {"letter", Operation::Typing, Qt::Key_X, Qt::NoModifier},
-        {"letter over a selection", Operation::Bound, Qt::Key_X, {}},
-        {"letter into an emptied document", Operation::Emptied, Qt::Key_X, {}},
-        {"Return", Operation::Typing, Qt::Key_Return, {}},
-        {"Backspace", Operation::Typing, Qt::Key_Backspace, {}},
-        {"Delete", Operation::Bound, Qt::Key_Delete, {}},
-        {"Tab", Operation::Typing, Qt::Key_Tab, {}},
-        {"Right", Operation::Typing, Qt::Key_Right, {}},
-        {"Ctrl+B", Operation::Bound, Qt::Key_B, Qt::ControlModifier},
-        {"Ctrl+J", Operation::Bound, Qt::Key_J, Qt::ControlModifier},
-        {"Ctrl+V", Operation::Typing, Qt::Key_V, Qt::ControlModifier},
-        {"Ctrl+X", Operation::Bound, Qt::Key_X, Qt::ControlModifier},
-        {"Ctrl+Z", Operation::Edited, Qt::Key_Z, Qt::ControlModifier}};
+    static const Key keys[] = {{"letter", Stage::Typing, Qt::Key_X, Qt::NoModifier},
+                               {"letter over a selection", Stage::Bound, Qt::Key_X, {}},
+                               {"letter into an emptied document", Stage::Emptied, Qt::Key_X, {}},
+                               {"Return", Stage::Typing, Qt::Key_Return, {}},
+                               {"Backspace", Stage::Typing, Qt::Key_Backspace, {}},
+                               {"Delete", Stage::Bound, Qt::Key_Delete, {}},
+                               {"Tab", Stage::Typing, Qt::Key_Tab, {}},
+                               {"Right", Stage::Typing, Qt::Key_Right, {}},
+                               {"Ctrl+B", Stage::Bound, Qt::Key_B, Qt::ControlModifier},
+                               {"Ctrl+J", Stage::Bound, Qt::Key_J, Qt::ControlModifier},
+                               {"Ctrl+V", Stage::Typing, Qt::Key_V, Qt::ControlModifier},
+                               {"Ctrl+X", Stage::Bound, Qt::Key_X, Qt::ControlModifier},
+                               {"Ctrl+Z", Stage::Edited, Qt::Key_Z, Qt::ControlModifier}};
     for (const Key &key : keys) {
         operations->append(
             {QStringLiteral("key ") + key.name, key.start, [&key](const Stage &stage) {
@@ -241,43 +147,43 @@ void addKeys(QVector<Operation> *operations)
 void addBindings(QVector<Operation> *operations)
 {
     const QVector<Operation> bindings = {
-        {"Init item", Operation::Unbound,
+        {"Init item", Stage::Unbound,
          [](const Stage &stage) {
              stage.client->Init(stage.item->item);
          }},
-        {"Init frame", Operation::Unbound,
+        {"Init frame", Stage::Unbound,
          [](const Stage &stage) {
              stage.client->Init(stage.item->frame);
          }},
-        {"Init new item", Operation::New,
+        {"Init new item", Stage::New,
          [](const Stage &stage) {
              stage.client->Init(stage.item->item);
          }},
-        {"GetEditeWidget", Operation::Unbound,
+        {"GetEditeWidget", Stage::Unbound,
          [](const Stage &stage) {
              stage.client->GetEditeWidget(stage.item->item);
          }},
-        {"GetAttributesWidget", Operation::Unbound,
+        {"GetAttributesWidget", Stage::Unbound,
          [](const Stage &stage) {
              stage.client->GetAttributesWidget(stage.item->item);
          }},
-        {"GetEditeWidget again", Operation::Edited,
+        {"GetEditeWidget again", Stage::Edited,
          [](const Stage &stage) {
              stage.client->GetEditeWidget(stage.item->item);
          }},
-        {"GetAttributesWidget again", Operation::Edited,
+        {"GetAttributesWidget again", Stage::Edited,
          [](const Stage &stage) {
              stage.client->GetAttributesWidget(stage.item->item);
          }},
-        {"GetEditeWidget of a frame", Operation::Edited,
+        {"GetEditeWidget of a frame", Stage::Edited,
          [](const Stage &stage) {
              stage.client->GetEditeWidget(stage.item->frame);
          }},
-        {"Finish", Operation::Edited,
+        {"Finish", Stage::Edited,
          [](const Stage &stage) {
              stage.client->Finish();
          }},
-        {"Init another item", Operation::Edited, [](const Stage &stage) {
+        {"Init another item", Stage::Edited, [](const Stage &stage) {
              stage.client->Init(stage.other->item);
          }}};
     *operations += bindings;
@@ -285,19 +191,19 @@ void addBindings(QVector<Operation> *operations)
 
 void addHost(QVector<Operation> *operations)
 {
-    const QVector<Operation> host = {{"LanguageChanged", Operation::Edited,
+    const QVector<Operation> host = {{"LanguageChanged", Stage::Edited,
                                       [](const Stage &) {
                                           emit LTranslation::instance()->LanguageChanged();
                                       }},
-                                     {"ConfigChanged", Operation::Edited,
+                                     {"ConfigChanged", Stage::Edited,
                                       [](const Stage &) {
                                           emit DataSourceConfigManager::instance()->ConfigChanged();
                                       }},
-                                     {"SourceChanged", Operation::Edited,
+                                     {"SourceChanged", Stage::Edited,
                                       [](const Stage &) {
                                           emit DataSourceConfigManager::instance()->SourceChanged();
                                       }},
-                                     {"other sources", Operation::Edited,
+                                     {"other sources", Stage::Edited,
                                       [](const Stage &) {
                                           auto *const manager = DataSourceConfigManager::instance();
                                           QVector<DynamicDataSource> sources =
@@ -305,7 +211,7 @@ void addHost(QVector<Operation> *operations)
                                           sources[0].fields.append({"Extra", "5", true});
                                           manager->SetDynamicData(sources);
                                       }},
-                                     {"FrameChanged", Operation::Bound,
+                                     {"FrameChanged", Stage::Bound,
                                       [](const Stage &stage) {
                                           LFrame border;
                                           border.SetEnable(true);
@@ -313,16 +219,16 @@ void addHost(QVector<Operation> *operations)
                                           border.SetSpeed(4);
                                           stage.item->frame->SetFrame(border);
                                       }},
-                                     {"page played", Operation::Bound,
+                                     {"page played", Stage::Bound,
                                       [](const Stage &stage) {
                                           emit stage.item->item->PlayIndexChanged(2, 3);
                                       }},
-                                     {"hidden and shown", Operation::Edited,
+                                     {"hidden and shown", Stage::Edited,
                                       [](const Stage &stage) {
                                           stage.client->GetClient()->hide();
                                           stage.client->GetClient()->show();
                                       }},
-                                     {"painted", Operation::Edited, [](const Stage &stage) {
+                                     {"painted", Stage::Edited, [](const Stage &stage) {
                                           stage.client->GetClient()->grab();
                                       }}};
     *operations += host;
