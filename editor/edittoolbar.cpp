@@ -72,13 +72,13 @@ const QVector<EditToolBar::Entry> &EditToolBar::entries()
          QT_TR_NOOP("Transparent Background"), nullptr, ":images/Transparent.png", true, 0,
          SLOT(TransBgColor()), 0},
         {"actionUseHollow", QT_TR_NOOP("Hollow"), QT_TR_NOOP("Hollow"), nullptr,
-         ":images/hollow.png", true, 0, SLOT(UseHollow()), 0},
+         ":/images/hollow.png", true, 0, SLOT(UseHollow()), 0},
         {"actionStroke", QT_TR_NOOP("Stroke"), QT_TR_NOOP("Stroke"), nullptr, ":images/stroke.png",
          false, 0, nullptr, 0},
         {"actionStrokeColor", QT_TR_NOOP("Stroke Color..."), QT_TR_NOOP("Stroke Color..."), nullptr,
-         ":images/stroke_color.png", false, 0, SLOT(StrokeColor()), 0},
+         ":/images/stroke_color.png", false, 0, SLOT(StrokeColor()), 0},
         {"actionClearStroke", QT_TR_NOOP("Clear Stroke"), QT_TR_NOOP("Clear Stroke"), nullptr,
-         ":images/null.png", false, 0, SLOT(ClearStrokeColor()), 0},
+         ":/images/null.png", false, 0, SLOT(ClearStrokeColor()), 0},
     };
     return list;
 }

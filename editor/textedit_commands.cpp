@@ -287,8 +287,11 @@ void TextEdit::SetStrokeColorButtonImage(const QColor &color)
 
 void TextEdit::WordSpacingChanged(int value)
 {
+    const int attachment = m_attachment;
     nodeCall(m_node, &LTextEffectNode::SetFontSpace, value);
-    TextWordSpacingChanged(value);
+    if (attachment == m_attachment) { // without a node the view follows all the same
+        TextWordSpacingChanged(value);
+    }
 }
 
 void TextEdit::LineSpacingChanged(int value)
@@ -300,7 +303,9 @@ void TextEdit::ON_VerticalStretch()
 {
     const int attachment = m_attachment;
     const bool fills = nodeCall(m_node, &LTextEffectNode::GetTableFillArea);
-    nodeCall(m_node, &LTextEffectNode::SetTableFillArea, !fills);
+    if (isAttached(attachment)) {
+        m_node->SetTableFillArea(!fills);
+    }
     if (isAttached(attachment)) {
         copyTableSettings();
         redraw();

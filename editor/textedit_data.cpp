@@ -228,10 +228,9 @@ void TextEdit::ProcessPaddingHtmlTable()
     }
     const auto descriptors = m_fields->index.descriptors();
     const auto known = descriptors.constFind(key);
-    if (known != descriptors.constEnd()) {
+    if (known != descriptors.constEnd() && isAttached(attachment)) {
         const bool isText = *known == lctrlsex::KeyDescriptor{1, 1};
-        nodeCall(m_node, &LTextEffectNode::SetTableListTypeSeparator,
-                 isText ? QStringLiteral(",") : QStringLiteral("\n"));
+        m_node->SetTableListTypeSeparator(isText ? QStringLiteral(",") : QStringLiteral("\n"));
     }
     if (isAttached(attachment)) {
         emit TableBindFieldChanged();

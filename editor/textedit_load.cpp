@@ -19,14 +19,20 @@ using lctrlsex::nodeCall;
 
 void TextEdit::Init(LTextEffectNode *node)
 {
+    // Storing what was typed may make the host delete this node or attach another one.
+    const QPointer<LTextEffectNode> wanted = node;
+    const int before = m_attachment;
     flush();
+    if (before != m_attachment) {
+        return;
+    }
     if (m_node != nullptr) {
         disconnect(m_node, &QObject::destroyed, this, nullptr);
     }
-    m_node = node;
+    m_node = wanted;
     ++m_attachment;
     m_mergeTimer.stop();
-    m_publisher->attach(node);
+    m_publisher->attach(wanted);
     if (m_node.isNull()) {
         letGo();
         return;

@@ -15,11 +15,31 @@
 #include <QLineEdit>
 #include <QLocale>
 #include <QToolButton>
+#include <QVector>
 
 namespace Lum {
 namespace LTextPlugin {
 
-QPointer<LTextClient> LTextClient::instance_;
+LTextClient *LTextClient::instance_ = nullptr;
+
+/**
+ * A host may leave by exit() and keep its application: nodes that go after that must not be
+ * answered, since the toolkit that would lay out and draw is half gone.
+ */
+class LTextClient::AtExit
+{
+public:
+    AtExit() = default;
+    ~AtExit()
+    {
+        if (instance_) {
+            instance_->CutOff();
+        }
+    }
+
+private:
+    Q_DISABLE_COPY(AtExit)
+};
 
 LTextClient *LTextClient::instance()
 {
@@ -28,13 +48,14 @@ LTextClient *LTextClient::instance()
         // Widgets must not outlive the application. The host's windows may have gone before and
         // the client with them; the pointer is null then.
         qAddPostRoutine(&LTextClient::deleteInstance);
+        static const AtExit atExit;
     }
     return instance_;
 }
 
 void LTextClient::deleteInstance()
 {
-    delete instance_.data();
+    delete instance_;
 }
 
 LTextClient::LTextClient()
@@ -46,8 +67,22 @@ LTextClient::LTextClient()
     InitUI();
 }
 
+void LTextClient::CutOff()
+{
+    for (QObject *listener :
+         {static_cast<QObject *>(this), static_cast<QObject *>(m_form->wgtTextEditor)}) {
+        if (m_node) {
+            disconnect(m_node, nullptr, listener, nullptr);
+        }
+        if (m_frameNode) {
+            disconnect(m_frameNode, nullptr, listener, nullptr);
+        }
+    }
+}
+
 LTextClient::~LTextClient()
 {
+    instance_ = nullptr;
     // What the widgets still say while they go must not come back in here.
     m_node.clear();
     disconnect(m_form->wgtTextEditor, nullptr, this, nullptr);
@@ -176,9 +211,10 @@ LTextEffectNode *LTextClient::TextNodeOf(LFrameNode *frame)
     if (!frameNode) {
         return nullptr;
     }
-    const QList<LNode *> children = frameNode->ChildNodes();
-    for (LNode *child : children) {
-        if (child->TypeText() == wanted) {
+    const QList<LNode *> nodes = frameNode->ChildNodes();
+    const QVector<QPointer<LNode>> children(nodes.cbegin(), nodes.cend());
+    for (const QPointer<LNode> &child : children) {
+        if (child && child->TypeText() == wanted) {
             return qobject_cast<LTextEffectNode *>(child);
         }
     }

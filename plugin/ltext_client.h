@@ -117,11 +117,13 @@ private slots:
     void AttributesDestroyed();
 
 private:
+    class AtExit;
     class Bound;
     class Filling;
 
     LTextClient();
     static void deleteInstance();
+    void CutOff();
 
     void PreparePanel();
     void InitUI();
@@ -153,7 +155,7 @@ private:
 
     Q_DISABLE_COPY(LTextClient)
 
-    static QPointer<LTextClient> instance_;
+    static LTextClient *instance_; ///< Plain, so that it can be asked after all destructors.
 
     std::unique_ptr<lctrlsex::ClientForm> m_form;
     bool m_initialising = true;
