@@ -616,12 +616,12 @@
 <context>
     <name>NodePublisher</name>
     <message>
-        <source>The stored document cannot be read: %1.</source>
-        <translation>无法读取存储的文档：%1。</translation>
+        <source>The stored document cannot be read: %1</source>
+        <translation>无法读取存储的文档：%1</translation>
     </message>
     <message>
-        <source>The stored document cannot be shown (line %1, column %2): %3. %4.</source>
-        <translation>无法显示存储的文档（第 %1 行，第 %2 列）：%3。%4。</translation>
+        <source>The stored document cannot be shown (line %1, column %2): %3 %4</source>
+        <translation>无法显示存储的文档（第 %1 行，第 %2 列）：%3%4</translation>
     </message>
 </context>
 <context>
@@ -883,6 +883,36 @@
     <message>
         <source>it must be a whole number of pixels from 1 to %1</source>
         <translation>必须是 1 到 %1 的整数像素值</translation>
+    </message>
+</context>
+<context>
+    <name>QDockWidget</name>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>Closes the dock widget</source>
+        <translation>关闭此面板</translation>
+    </message>
+    <message>
+        <source>Float</source>
+        <translation>浮动</translation>
+    </message>
+    <message>
+        <source>Undocks and re-attaches the dock widget</source>
+        <translation>使此面板浮动，或重新停靠</translation>
+    </message>
+</context>
+<context>
+    <name>QTabBar</name>
+    <message>
+        <source>Scroll Left</source>
+        <translation>向左滚动</translation>
+    </message>
+    <message>
+        <source>Scroll Right</source>
+        <translation>向右滚动</translation>
     </message>
 </context>
 <context>
