@@ -127,13 +127,14 @@ void MainWindow::resetLayout()
     applyDefaultLayout();
 }
 
+/** What needs a description needs a tool tip too. */
 static void nameButton(QWidget *parent, const char *button, const QString &name,
                        const QString &description)
 {
     if (auto *found = parent->findChild<QAbstractButton *>(QLatin1String(button))) {
         found->setAccessibleName(name);
         found->setAccessibleDescription(description);
-        found->setToolTip(name);
+        found->setToolTip(description.isEmpty() ? QString() : name);
     }
 }
 
