@@ -12,8 +12,11 @@
 #include <QAction>
 #include <QComboBox>
 #include <QDir>
+#include <QDockWidget>
+#include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
+#include <QPushButton>
 #include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QXmlStreamReader>
@@ -44,6 +47,7 @@ private slots:
     void switchesAndReturns();
     void keepsMenuLettersApart_data();
     void keepsMenuLettersApart();
+    void tellsWhatIsCramped();
     void leavesRoomForLongTexts_data();
     void leavesRoomForLongTexts();
     void leavesRoomInDialogs_data();
@@ -171,6 +175,9 @@ void TestLanguage::enter(const QString &state)
     } else {
         m_window->selectNode(node(paths.value(state)));
     }
+    if (state == "frame" || state == "screen" || state == "programme") {
+        m_window->findChild<QDockWidget *>("LayoutDock")->raise();
+    }
     if (state == "notice") {
         QVERIFY(!m_window->openFile("/#"));
     }
@@ -272,6 +279,29 @@ QStringList TestLanguage::unspoken(const QWidget *window) const
         }
     }
     return plain;
+}
+
+/** The measure of the tests below measures. */
+void TestLanguage::tellsWhatIsCramped()
+{
+    QWidget window;
+    auto *label = new QLabel("A label", &window);
+    auto *button = new QPushButton("A button", &window);
+    const QSize room = label->sizeHint().expandedTo(button->sizeHint());
+    window.resize(room.width(), 2 * room.height());
+    label->setGeometry(QRect(QPoint(0, 0), room));
+    button->setGeometry(QRect(QPoint(0, room.height()), room));
+    window.show();
+    TELL(crampedIn(&window));
+    button->move(0, room.height() - 1);
+    QCOMPARE(crampedIn(&window), QStringList("QWidget/QLabel lies upon QWidget/QPushButton"));
+    button->move(0, room.height());
+    label->resize(label->sizeHint().width() - 1, room.height());
+    QCOMPARE(crampedIn(&window).size(), 1);
+    label->setWordWrap(true);
+    QCOMPARE(crampedIn(&window).size(), label->heightForWidth(label->width()) > room.height());
+    button->resize(button->sizeHint().width() - 1, room.height());
+    QVERIFY(crampedIn(&window).last().startsWith("QWidget/QPushButton needs"));
 }
 
 void TestLanguage::leavesRoomForLongTexts_data()
