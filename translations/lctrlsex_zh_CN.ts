@@ -474,7 +474,7 @@
     </message>
     <message>
         <source>Page</source>
-        <translation>页</translation>
+        <translation>页面</translation>
     </message>
     <message>
         <source>Return</source>
