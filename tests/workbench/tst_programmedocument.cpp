@@ -1,5 +1,6 @@
 #include "lframenode.h"
 #include "lscreennode.h"
+#include "ltexteffectnode.h"
 #include "programmedocument.h"
 #include "programmeitems.h"
 
