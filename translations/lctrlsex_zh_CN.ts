@@ -1627,6 +1627,14 @@ Free software under the MIT licence.</source>
         <source>Lan&amp;guage</source>
         <translation>语言(&amp;G)</translation>
     </message>
+    <message>
+        <source>another workbench has restored this copy too</source>
+        <translation>另一个工作台也恢复了此副本</translation>
+    </message>
+    <message>
+        <source>save one of the two under another name</source>
+        <translation>请将其中之一另存为其他名称</translation>
+    </message>
 </context>
 <context>
     <name>workbench::NodeDelegate</name>
