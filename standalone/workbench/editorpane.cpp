@@ -242,11 +242,11 @@ void EditorPane::retranslate()
     m_addItem->setText(tr("Add Text Item"));
     m_noAttributes->setText(tr("Effects, times and data of a text item appear here."));
     if (!hasPlugin()) {
-        const QString reason = m_plugin.fileName.isEmpty()
-                                   ? m_plugin.reason
-                                   : tr("%1: %2").arg(m_plugin.fileName, m_plugin.reason);
-        m_faultText->setText(
-            tr("The text editor cannot be used.\n\n%1\n%2").arg(reason, m_plugin.remedy));
+        const QString reason = translatedFault(m_plugin.reason);
+        const QString place =
+            m_plugin.fileName.isEmpty() ? reason : tr("%1: %2").arg(m_plugin.fileName, reason);
+        m_faultText->setText(tr("The text editor cannot be used.\n\n%1\n%2")
+                                 .arg(place, translatedFault(m_plugin.remedy)));
     }
 }
 

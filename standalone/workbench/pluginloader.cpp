@@ -14,12 +14,18 @@ namespace {
 /** Lum::LTextPlugin::LTextClient::instance(), as the compiler spells it. */
 constexpr char AccessorSymbol[] = "_ZN3Lum11LTextPlugin11LTextClient8instanceEv";
 
-struct Texts
+/** A text that is translated when it is shown: the language may be another one by then. */
+QString later(const char *text)
 {
-    Q_DECLARE_TR_FUNCTIONS(PluginLoader)
-};
+    return QString::fromLatin1(text);
+}
 
 } // namespace
+
+QString translatedFault(const QString &text)
+{
+    return QCoreApplication::translate("PluginLoader", text.toUtf8().constData());
+}
 
 QStringList pluginCandidates(const QString &chosen)
 {
@@ -58,9 +64,10 @@ LoadedPlugin loadPlugin(const QStringList &candidates)
     }
     if (result.fileName.isEmpty()) {
         result.fileName = candidates.size() == 1 ? candidates.constFirst() : QString();
-        result.reason = Texts::tr("The plug-in with the text editor was not found.");
-        result.remedy =
-            Texts::tr("Install it beside the program, or name its file with --plugin FILE.");
+        result.reason = later(
+            QT_TRANSLATE_NOOP("PluginLoader", "The plug-in with the text editor was not found."));
+        result.remedy = later(QT_TRANSLATE_NOOP(
+            "PluginLoader", "Install it beside the program, or name its file with --plugin FILE."));
         return result;
     }
     QLibrary library(result.fileName);
@@ -68,20 +75,24 @@ LoadedPlugin loadPlugin(const QStringList &candidates)
     library.setLoadHints(QLibrary::ResolveAllSymbolsHint);
     if (!library.load()) {
         result.reason = library.errorString();
-        result.remedy = Texts::tr("Install the plug-in of the same version as the workbench.");
+        result.remedy = later(QT_TRANSLATE_NOOP(
+            "PluginLoader", "Install the plug-in of the same version as the workbench."));
         return result;
     }
     const auto accessor = reinterpret_cast<void *(*)()>(library.resolve(AccessorSymbol));
     if (accessor == nullptr) {
-        result.reason = Texts::tr("The library does not export the text client.");
-        result.remedy = Texts::tr("Name the file of the plug-in with --plugin FILE.");
+        result.reason = later(
+            QT_TRANSLATE_NOOP("PluginLoader", "The library does not export the text client."));
+        result.remedy = later(
+            QT_TRANSLATE_NOOP("PluginLoader", "Name the file of the plug-in with --plugin FILE."));
         return result;
     }
     // The interface is the client's first base, so both have one address.
     result.client = static_cast<Lum::INodeClient *>(accessor());
     if (result.client == nullptr) {
-        result.reason = Texts::tr("The plug-in gave no client.");
-        result.remedy = Texts::tr("Install the plug-in of the same version as the workbench.");
+        result.reason = later(QT_TRANSLATE_NOOP("PluginLoader", "The plug-in gave no client."));
+        result.remedy = later(QT_TRANSLATE_NOOP(
+            "PluginLoader", "Install the plug-in of the same version as the workbench."));
     }
     return result;
 }

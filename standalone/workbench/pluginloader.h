@@ -16,9 +16,13 @@ struct LoadedPlugin
     Lum::INodeClient *client = nullptr;
     /** The library that was loaded, or the one at fault; empty when none was found. */
     QString fileName;
+    /** In English, for translatedFault(). */
     QString reason;
     QString remedy;
 };
+
+/** A reason or remedy in the current language. */
+[[nodiscard]] QString translatedFault(const QString &text);
 
 /**
  * The files that may be the plug-in, best first. @p chosen (from the command line) or else the

@@ -4,7 +4,7 @@
 
 /**
  * A language that no one speaks: every text that asks for a translation comes in brackets, with
- * accents and 40 % longer, and keeps its place markers and its mnemonic.
+ * accents and 40 % longer, and keeps its place markers.
  */
 class PseudoLocale : public QTranslator
 {
@@ -20,10 +20,13 @@ public:
         return isText ? drawnOut(QString::fromUtf8(source)) : QString();
     }
 
+    /** Letters that no text of this language has. */
+    static QString plainLetters() { return QStringLiteral("AEIOUaeiounNcC"); }
+
 private:
     static QString drawnOut(const QString &source)
     {
-        static const QString plain = QStringLiteral("AEIOUaeiounNcC");
+        static const QString plain = plainLetters();
         static const QString accented = QStringLiteral("ÁÈÎÖÚáèîöúñÑçÇ");
         // The patterns of a file dialog's filter are for the machine.
         const int patterns = source.endsWith(')') ? source.indexOf("(*") : -1;
@@ -35,7 +38,7 @@ private:
                 return "[" + text + "] " + source.mid(i);
             }
             text.append(c);
-            const bool isMark = i > 0 && (source.at(i - 1) == '%' || source.at(i - 1) == '&');
+            const bool isMark = i > 0 && source.at(i - 1) == '%';
             if (!c.isLetter() || isMark) {
                 continue;
             }

@@ -26,11 +26,12 @@
 
 using namespace workbench;
 
-/** Fails with all the faults found, of which there should be none. */
+/** Fails with all the faults that are still found after a while, of which there should be none. */
 #define TELL(faults)                                                                               \
     do {                                                                                           \
-        const QStringList found = faults;                                                          \
-        QVERIFY2(found.isEmpty(), qPrintable(found.join("\n")));                                   \
+        QStringList found;                                                                         \
+        const bool isWell = QTest::qWaitFor([&] { return (found = (faults)).isEmpty(); }, 3000);   \
+        QVERIFY2(isWell, qPrintable(found.join("\n")));                                            \
     } while (false)
 
 /** The workbench's window with the real plug-in in several languages. */
@@ -99,10 +100,47 @@ static QVector<QRegularExpression> translatedSources()
                        source) {
             QString pattern = QRegularExpression::escape(source);
             pattern.replace(QRegularExpression("\\\\%(\\d|n)"), ".*");
-            patterns.append(QRegularExpression("^" + pattern + "$"));
+            // A sentence may stand in a longer text, a word of its own may not.
+            const bool isSentence = source.count(' ') > 2;
+            patterns.append(QRegularExpression(isSentence ? pattern : "^" + pattern + "$"));
         }
     }
     return patterns;
+}
+
+/** Texts of the window that the catalogue has but that are still, or in part, English. */
+static QStringList untranslated(const QWidget *window)
+{
+    static const QVector<QRegularExpression> sources = translatedSources();
+    QStringList stale;
+    const QMap<QString, QString> texts = textsOf(window);
+    for (auto text = texts.cbegin(); text != texts.cend(); ++text) {
+        for (const QRegularExpression &source : sources) {
+            if (source.match(text.value()).hasMatch()) {
+                stale.append(text.key() + " = " + text.value());
+                break;
+            }
+        }
+    }
+    return sources.isEmpty() ? QStringList("no catalogue") : stale;
+}
+
+static QStringList differences(const QMap<QString, QString> &before,
+                               const QMap<QString, QString> &after)
+{
+    QStringList places = before.keys();
+    for (const QString &place : after.keys()) {
+        if (!before.contains(place)) {
+            places.append(place);
+        }
+    }
+    QStringList different;
+    for (const QString &place : qAsConst(places)) {
+        if (before.value(place) != after.value(place)) {
+            different.append(place + ": " + before.value(place) + " -> " + after.value(place));
+        }
+    }
+    return different;
 }
 
 void TestLanguage::initTestCase()
@@ -181,13 +219,13 @@ void TestLanguage::enter(const QString &state)
     if (state == "notice") {
         QVERIFY(!m_window->openFile("/#"));
     }
-    QTest::qWait(50);
+    QCoreApplication::processEvents();
 }
 
 void TestLanguage::speak(const QString &language)
 {
     QVERIFY(LTranslation::instance()->SetLanguage(language));
-    QTest::qWait(50);
+    QCoreApplication::processEvents();
 }
 
 /** The translator installed last is asked first. */
@@ -195,7 +233,7 @@ void TestLanguage::speakPseudo()
 {
     QVERIFY(QCoreApplication::installTranslator(&m_pseudo));
     emit LTranslation::instance()->LanguageChanged();
-    QTest::qWait(50);
+    QCoreApplication::processEvents();
 }
 
 void TestLanguage::switchesAndReturns()
@@ -203,33 +241,18 @@ void TestLanguage::switchesAndReturns()
     QFETCH(QString, state);
     open(QSize(1280, 800));
     enter(state);
+    QTest::qWait(400); // Until thumbnails have told what is wrong with their items.
     const QMap<QString, QString> english = textsOf(m_window.get());
     const QMap<QString, int> choices = choicesOf(m_window.get());
     QVERIFY(english.size() > 150);
 
     speak("zh_CN");
-    const QMap<QString, QString> chinese = textsOf(m_window.get());
-    const QVector<QRegularExpression> sources = translatedSources();
-    QVERIFY(!sources.isEmpty());
-    QStringList stale;
-    for (auto text = chinese.cbegin(); text != chinese.cend(); ++text) {
-        for (const QRegularExpression &source : sources) {
-            if (source.match(text.value()).hasMatch()) {
-                stale.append(text.key() + " = " + text.value());
-                break;
-            }
-        }
-    }
-    TELL(stale);
+    TELL(untranslated(m_window.get()));
     QCOMPARE(choicesOf(m_window.get()), choices);
     QCOMPARE(m_window->findChild<QAction *>("Save")->text(), QString("保存(&S)"));
 
     speak("en");
-    const QMap<QString, QString> again = textsOf(m_window.get());
-    for (auto text = english.cbegin(); text != english.cend(); ++text) {
-        QCOMPARE(text.key() + " = " + again.value(text.key()), text.key() + " = " + text.value());
-    }
-    QCOMPARE(again.keys(), english.keys());
+    TELL(differences(english, textsOf(m_window.get())));
     QCOMPARE(choicesOf(m_window.get()), choices);
 }
 
@@ -262,23 +285,24 @@ void TestLanguage::keepsMenuLettersApart()
 
 QStringList TestLanguage::unspoken(const QWidget *window) const
 {
-    QStringList plain;
+    // Each family is called what it is called; a language is named in itself, for whoever cannot
+    // read the current one; what a file dialog lists is in the folders.
+    static const QRegularExpression ownPlace("comboFont entry|/Language\\.|lookInCombo|"
+                                             "(listView|treeView|sidebar) row");
+    // Names of the programme, files, names of keys, and mnemonics, which the pseudo-locale keeps.
+    static const QRegularExpression ownPart(
+        "#\\w*|/[^\\s\\]]+|\\((Ctrl|Shift|F\\d|Del|\\W)+\\w*\\)|&.|"
+        "\\[\\*\\]|\\(\\*.*\\)");
+    static const QRegularExpression plain(QString("[%1]").arg(PseudoLocale::plainLetters()));
+    QStringList faults;
     const QMap<QString, QString> texts = textsOf(window);
     for (auto text = texts.cbegin(); text != texts.cend(); ++text) {
-        const QString value = QString(text.value()).remove("[*]");
-        const bool isSpoken = value.contains('[') && value.contains(']');
-        const bool isWord = value.contains(QRegularExpression("[A-Za-z]"));
-        // Names and texts of the programme begin with "#"; each family is called what it is called,
-        // and a language is named in itself, for whoever cannot read the current one.
-        // What a file dialog lists is in the folders; its own texts are in its heads and labels.
-        static const QRegularExpression own("comboFont entry|/Language\\.|"
-                                            "(listView|treeView|sidebar) row|lookInCombo");
-        const bool isOwn = value.contains('#') || own.match(text.key()).hasMatch();
-        if (isWord && !isSpoken && !isOwn) {
-            plain.append(text.key() + " = " + value);
+        const QString said = QString(text.value()).remove(ownPart);
+        if (said.contains(plain) && !ownPlace.match(text.key()).hasMatch()) {
+            faults.append(text.key() + " = " + text.value());
         }
     }
-    return plain;
+    return faults;
 }
 
 /** The measure of the tests below measures. */
@@ -325,6 +349,10 @@ void TestLanguage::leavesRoomForLongTexts()
     enter(state);
     TELL(crampedIn(m_window.get()));
     speakPseudo();
+    if (state == "notice") {
+        // What was said about a file stays as it was said; the next one is another matter.
+        enter(state);
+    }
     QCOMPARE(m_window->size(), size);
     TELL(unspoken(m_window.get()));
     TELL(crampedIn(m_window.get()));

@@ -3,6 +3,7 @@
 #include "itemcheck.h"
 #include "itemrenderer.h"
 #include "ltexteffectnode.h"
+#include "ltranslation.h"
 #include "pagefiles.h"
 #include "programmedocument.h"
 #include "treewatch.h"
@@ -66,6 +67,8 @@ ItemPages::ItemPages(ProgrammeDocument *document, QObject *parent)
     m_settle.setSingleShot(true);
     m_settle.setInterval(SettleTime);
     connect(&m_settle, &QTimer::timeout, this, &ItemPages::announce);
+    connect(LTranslation::instance(), &LTranslation::LanguageChanged, this,
+            &ItemPages::retranslate);
     const TreeWatch *const tree = document->tree();
     connect(tree, &TreeWatch::attributeChanged, this, &ItemPages::onAttributeChanged);
     connect(tree, &TreeWatch::gone, this, &ItemPages::forget);
@@ -175,6 +178,17 @@ void ItemPages::publish()
     if (node && node == m_watched && pages && m_items.value(node).renderer == pages) {
         m_files->start(node, pages);
     }
+}
+
+/** What problems say is put into words by a renderer; the pages that were made stay as they are. */
+void ItemPages::retranslate()
+{
+    for (Item &item : m_items) {
+        item.renderer.reset();
+        item.isChanged = true;
+    }
+    m_recent.clear();
+    m_settle.start();
 }
 
 player::ItemRenderer *ItemPages::renderer(LTextEffectNode *node)

@@ -73,6 +73,7 @@ private:
     void forget(LNode *node);
     void announce();
     void publish();
+    void retranslate();
     player::ItemRenderer *renderer(LTextEffectNode *node);
 
     ProgrammeDocument *const m_document;
