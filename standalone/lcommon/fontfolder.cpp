@@ -2,6 +2,7 @@
 
 #include "lappconfig.h"
 #include "lcommonlogging.h"
+#include "systemreason.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -192,7 +193,7 @@ QString linkFaces(const Faces &faces, const QString &folder)
         QFile target(it->file);
         if (!target.link(link)) {
             error = translated(QT_TRANSLATE_NOOP("FontFolder", "Cannot make the link %1: %2"))
-                        .arg(link, target.errorString());
+                        .arg(link, systemReason(target.errorString()));
         }
     }
     return error;

@@ -8,6 +8,7 @@
 #include "programmeschema.h"
 #include "programmetexts.h"
 #include "replacefile.h"
+#include "systemreason.h"
 
 #include <QFile>
 #include <QJsonArray>
@@ -168,15 +169,16 @@ ReadProgramme loadProgramme(const QString &fileName)
                                                        : file.open(QIODevice::ReadOnly);
     if (!isOpen) {
         result.error =
-            fileError(ProgrammeFileTexts::tr("the file cannot be read: %1").arg(file.errorString()),
+            fileError(ProgrammeFileTexts::tr("the file cannot be read: %1")
+                          .arg(systemReason(file.errorString())),
                       ProgrammeFileTexts::tr("check its name and whether you may read it"));
         return result;
     }
     const QByteArray bytes = readBounded(&file);
     if (file.error() != QFileDevice::NoError) {
-        result.error =
-            fileError(ProgrammeFileTexts::tr("the file cannot be read: %1").arg(file.errorString()),
-                      ProgrammeFileTexts::tr("name a *.programme.json file"));
+        result.error = fileError(ProgrammeFileTexts::tr("the file cannot be read: %1")
+                                     .arg(systemReason(file.errorString())),
+                                 ProgrammeFileTexts::tr("name a *.programme.json file"));
         return result;
     }
     if (bytes.size() > LargestFile) {

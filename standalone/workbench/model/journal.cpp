@@ -1,6 +1,7 @@
 #include "journal.h"
 
 #include "lappconfig.h"
+#include "systemreason.h"
 
 #include <QCoreApplication>
 #include <QCryptographicHash>
@@ -114,7 +115,7 @@ Journal loadJournal(const QString &fileName)
 {
     QFile file(fileName);
     if (!QFileInfo(fileName).isFile() || !file.open(QIODevice::ReadOnly)) {
-        return broken(Journals::tr("it cannot be read: %1").arg(file.errorString()));
+        return broken(Journals::tr("it cannot be read: %1").arg(systemReason(file.errorString())));
     }
     if (file.size() > LargestJournal) {
         return broken(Journals::tr("it is too large"));
