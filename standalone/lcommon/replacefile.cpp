@@ -1,6 +1,7 @@
 #include "replacefile.h"
 
 #include "systemreason.h"
+
 #include <QSaveFile>
 
 #include <cerrno>

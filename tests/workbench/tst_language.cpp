@@ -1,82 +1,33 @@
-#include "fontfolder.h"
-#include "lcontrollernode.h"
-#include "leffectnode.h"
+#include "languagewindow.h"
 #include "ltranslation.h"
-#include "mainwindow.h"
-#include "modalanswerer.h"
-#include "programmedocument.h"
-#include "pseudolocale.h"
 #include "widgettexts.h"
-#include "workbenchstyle.h"
 
 #include <QAction>
-#include <QComboBox>
-#include <QDir>
-#include <QDockWidget>
-#include <QLabel>
+#include <QApplication>
 #include <QMenu>
 #include <QMenuBar>
-#include <QPushButton>
 #include <QRegularExpression>
-#include <QTemporaryDir>
 #include <QXmlStreamReader>
-#include <QtTest>
-
-#include <memory>
 
 using namespace workbench;
 
-/** Fails with all the faults that are still found after a while, of which there should be none. */
-#define TELL(faults)                                                                               \
-    do {                                                                                           \
-        QStringList found;                                                                         \
-        const bool isWell = QTest::qWaitFor([&] { return (found = (faults)).isEmpty(); }, 3000);   \
-        QVERIFY2(isWell, qPrintable(found.join("\n")));                                            \
-    } while (false)
-
-/** The workbench's window with the real plug-in in several languages. */
+/** The language of the window changes while it is open. */
 class TestLanguage : public QObject
 {
     Q_OBJECT
 
 private slots:
     void initTestCase();
-    void init();
-    void cleanup();
+    void cleanup() { m_window.close(); }
 
-    void switchesAndReturns_data() { states(); }
+    void switchesAndReturns_data();
     void switchesAndReturns();
     void keepsMenuLettersApart_data();
     void keepsMenuLettersApart();
-    void tellsWhatIsCramped();
-    void leavesRoomForLongTexts_data();
-    void leavesRoomForLongTexts();
-    void leavesRoomInDialogs_data();
-    void leavesRoomInDialogs();
 
 private:
-    static void states();
-    void open(const QSize &size);
-    /** Brings the window into the state of that name. */
-    void enter(const QString &state);
-    LNode *node(const QList<int> &path) const;
-    void speak(const QString &language);
-    void speakPseudo();
-    QStringList unspoken(const QWidget *window) const;
-
-    LoadedPlugin m_plugin;
-    QTemporaryDir m_folder;
-    PseudoLocale m_pseudo;
-    std::unique_ptr<MainWindow> m_window;
+    LanguageWindow m_window;
 };
-
-static const char Programme[] = R"({ "format": "lctrlsex-programme", "version": 1,
-  "name": "#programme", "controller": { "kind": "LED", "width": 192, "height": 64 },
-  "screens": [ { "name": "#screen", "frames": [
-    { "name": "#frame", "items": [
-      { "name": "#item", "document": "<p style=\"color:#ffffff\">#1</p>" },
-      { "name": "#damaged", "attributes": { "RawHtml": "!" } } ] },
-    { "name": "#bare", "x": 500, "items": [] } ] } ] })";
 
 /** The texts of the catalogue that differ in Chinese, as patterns that match them filled in. */
 static QVector<QRegularExpression> translatedSources()
@@ -147,113 +98,36 @@ static QStringList differences(const QMap<QString, QString> &before,
 
 void TestLanguage::initTestCase()
 {
-    QVERIFY(m_folder.isValid());
-    qputenv("LCTRLSEX_DATA_DIR", m_folder.filePath("data").toUtf8());
-    QDir().mkpath(m_folder.filePath("data"));
-    QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
-    QVERIFY(FontFolder::fill().files > 0);
-    m_plugin = loadPlugin({QStringLiteral(LCTRLSEX_PLUGIN)});
-    QVERIFY2(m_plugin.client != nullptr, qPrintable(m_plugin.reason));
-    LTranslation::instance()->SetFolder(LCTRLSEX_BINARY_DIR "/share/lctrlsex/translations");
+    const QString fault = m_window.setUp();
+    QVERIFY2(fault.isEmpty(), qPrintable(fault));
     QCOMPARE(LTranslation::instance()->AvailableLanguages(), QStringList({"en", "zh_CN"}));
 }
 
-void TestLanguage::init()
-{
-    speak("en");
-}
-
-void TestLanguage::cleanup()
-{
-    m_window.reset();
-    QCoreApplication::removeTranslator(&m_pseudo);
-}
-
-void TestLanguage::states()
+void TestLanguage::switchesAndReturns_data()
 {
     QTest::addColumn<QString>("state");
-    for (const char *state : {"item", "damaged item", "frame", "bare frame", "screen", "programme",
-                              "display", "notice"}) {
-        QTest::newRow(state) << state;
+    for (const QString &state : LanguageWindow::states()) {
+        QTest::newRow(qPrintable(state)) << state;
     }
-}
-
-void TestLanguage::open(const QSize &size)
-{
-    const QString name = m_folder.filePath("#.programme.json");
-    QFile file(name);
-    QVERIFY(file.open(QIODevice::WriteOnly) && file.write(Programme) > 0);
-    file.close();
-    m_window = std::make_unique<MainWindow>(m_plugin, FontFolder::Result());
-    m_window->resize(size);
-    m_window->show();
-    m_window->start(name);
-    QCoreApplication::processEvents();
-    QCOMPARE(m_window->size(), size);
-}
-
-LNode *TestLanguage::node(const QList<int> &path) const
-{
-    LNode *node = m_window->document()->controller();
-    for (const int index : path) {
-        node = node->ChildNodes().at(index);
-    }
-    return node;
-}
-
-void TestLanguage::enter(const QString &state)
-{
-    static const QMap<QString, QList<int>> paths{
-        {"item", {0, 0, 0}}, {"damaged item", {0, 0, 1}}, {"frame", {0, 0}}, {"bare frame", {0, 1}},
-        {"screen", {0}},     {"programme", {}},           {"display", {}},   {"notice", {0, 0, 0}}};
-    if (state == "display") {
-        auto *display = m_window->findChild<QComboBox *>("DeviceKind");
-        m_window->selectNode(node({}));
-        display->setCurrentIndex(1);
-        emit display->activated(1);
-        m_window->selectNode(node({0, 0, 0}));
-    } else {
-        m_window->selectNode(node(paths.value(state)));
-    }
-    if (state == "frame" || state == "screen" || state == "programme") {
-        m_window->findChild<QDockWidget *>("LayoutDock")->raise();
-    }
-    if (state == "notice") {
-        QVERIFY(!m_window->openFile("/#"));
-    }
-    QCoreApplication::processEvents();
-}
-
-void TestLanguage::speak(const QString &language)
-{
-    QVERIFY(LTranslation::instance()->SetLanguage(language));
-    QCoreApplication::processEvents();
-}
-
-/** The translator installed last is asked first. */
-void TestLanguage::speakPseudo()
-{
-    QVERIFY(QCoreApplication::installTranslator(&m_pseudo));
-    emit LTranslation::instance()->LanguageChanged();
-    QCoreApplication::processEvents();
 }
 
 void TestLanguage::switchesAndReturns()
 {
     QFETCH(QString, state);
-    open(QSize(1280, 800));
-    enter(state);
+    QVERIFY(m_window.speak("en"));
+    QVERIFY(m_window.open(QSize(1280, 800)));
+    m_window.enter(state);
     QTest::qWait(400); // Until thumbnails have told what is wrong with their items.
     const QMap<QString, QString> english = textsOf(m_window.get());
     const QMap<QString, int> choices = choicesOf(m_window.get());
     QVERIFY(english.size() > 150);
 
-    speak("zh_CN");
+    QVERIFY(m_window.speak("zh_CN"));
     TELL(untranslated(m_window.get()));
     QCOMPARE(choicesOf(m_window.get()), choices);
     QCOMPARE(m_window->findChild<QAction *>("Save")->text(), QString("保存(&S)"));
 
-    speak("en");
+    QVERIFY(m_window.speak("en"));
     TELL(differences(english, textsOf(m_window.get())));
     QCOMPARE(choicesOf(m_window.get()), choices);
 }
@@ -268,8 +142,8 @@ void TestLanguage::keepsMenuLettersApart_data()
 void TestLanguage::keepsMenuLettersApart()
 {
     QFETCH(QString, language);
-    open(QSize(1280, 800));
-    speak(language);
+    QVERIFY(m_window.open(QSize(1280, 800)));
+    QVERIFY(m_window.speak(language));
     QList<QWidget *> menus{m_window->menuBar()};
     for (QMenu *menu : m_window->findChildren<QMenu *>()) {
         menus.append(menu);
@@ -285,121 +159,11 @@ void TestLanguage::keepsMenuLettersApart()
     }
 }
 
-QStringList TestLanguage::unspoken(const QWidget *window) const
-{
-    // Each family is called what it is called; a language is named in itself, for whoever cannot
-    // read the current one; what a file dialog lists is in the folders; a step keeps its name.
-    static const QRegularExpression ownPlace("comboFont entry|/Undo |/Language\\.|lookInCombo|"
-                                             "(listView|treeView|sidebar) row");
-    // Names of the programme, files, names of keys, and mnemonics, which the pseudo-locale keeps.
-    static const QRegularExpression ownPart(
-        "#\\w*|/[^\\s\\]]+|\\((Ctrl|Shift|F\\d|Del|\\W)+\\w*\\)|&.|"
-        "\\[\\*\\]|\\(\\*.*\\)");
-    static const QRegularExpression plain(QString("[%1]").arg(PseudoLocale::plainLetters()));
-    QStringList faults;
-    const QMap<QString, QString> texts = textsOf(window);
-    for (auto text = texts.cbegin(); text != texts.cend(); ++text) {
-        const QString said = QString(text.value()).remove(ownPart);
-        if (said.contains(plain) && !ownPlace.match(text.key()).hasMatch()) {
-            faults.append(text.key() + " = " + text.value());
-        }
-    }
-    return faults;
-}
-
-/** The measure of the tests below measures. */
-void TestLanguage::tellsWhatIsCramped()
-{
-    QWidget window;
-    auto *label = new QLabel("A label", &window);
-    auto *button = new QPushButton("A button", &window);
-    const QSize room = label->sizeHint().expandedTo(button->sizeHint());
-    window.resize(room.width(), 2 * room.height());
-    label->setGeometry(QRect(QPoint(0, 0), room));
-    button->setGeometry(QRect(QPoint(0, room.height()), room));
-    window.show();
-    TELL(crampedIn(&window));
-    button->move(0, room.height() - 1);
-    QCOMPARE(crampedIn(&window), QStringList("QWidget/QLabel lies upon QWidget/QPushButton"));
-    button->move(0, room.height());
-    label->resize(label->sizeHint().width() - 1, room.height());
-    QCOMPARE(crampedIn(&window).size(), 1);
-    label->setWordWrap(true);
-    QCOMPARE(crampedIn(&window).size(), label->heightForWidth(label->width()) > room.height());
-    button->resize(button->sizeHint().width() - 1, room.height());
-    QVERIFY(crampedIn(&window).last().startsWith("QWidget/QPushButton needs"));
-}
-
-void TestLanguage::leavesRoomForLongTexts_data()
-{
-    QTest::addColumn<QString>("state");
-    QTest::addColumn<QSize>("size");
-    for (const char *state : {"item", "damaged item", "frame", "bare frame", "screen", "programme",
-                              "display", "notice"}) {
-        for (const QSize &size : {QSize(1280, 800), QSize(1920, 1080)}) {
-            QTest::addRow("%s, %d x %d", state, size.width(), size.height())
-                << QString(state) << size;
-        }
-    }
-}
-
-void TestLanguage::leavesRoomForLongTexts()
-{
-    QFETCH(QString, state);
-    QFETCH(QSize, size);
-    open(size);
-    enter(state);
-    TELL(crampedIn(m_window.get()));
-    speakPseudo();
-    if (state == "notice") {
-        // What was said about a file stays as it was said; the next one is another matter.
-        enter(state);
-    }
-    QCOMPARE(m_window->size(), size);
-    TELL(unspoken(m_window.get()));
-    TELL(crampedIn(m_window.get()));
-}
-
-void TestLanguage::leavesRoomInDialogs_data()
-{
-    QTest::addColumn<QString>("action");
-    QTest::addColumn<bool>("changes");
-    QTest::newRow("about") << "About" << false;
-    QTest::newRow("unsaved changes") << "New" << true;
-    QTest::newRow("open") << "Open" << false;
-    QTest::newRow("save as") << "SaveAs" << false;
-    QTest::newRow("export") << "ExportPages" << false;
-    QTest::newRow("text colour") << "actionTextColor" << false;
-}
-
-void TestLanguage::leavesRoomInDialogs()
-{
-    QFETCH(QString, action);
-    QFETCH(bool, changes);
-    open(QSize(1280, 800));
-    speakPseudo();
-    if (changes) {
-        m_window->findChild<QAction *>("AddItem")->trigger();
-    }
-    QStringList faults;
-    const ModalAnswerer answerer([&](QDialog *dialog) {
-        faults = unspoken(dialog) + crampedIn(dialog);
-        // Of a file dialog, what stands in the folders is user data.
-        dialog->reject();
-    });
-    m_window->findChild<QAction *>(action)->trigger();
-    QTRY_VERIFY(answerer.wasAsked());
-    TELL(faults);
-}
-
 int main(int argc, char **argv)
 {
     qputenv("QT_FONT_DPI", "72");
     QApplication application(argc, argv);
-    QApplication::setStyle(new WorkbenchStyle);
-    QFont font = QApplication::font();
-    font.setPixelSize(13);
-    QApplication::setFont(font);
+    dressApplication();
     TestLanguage test;
     return QTest::qExec(&test, argc, argv);
 }

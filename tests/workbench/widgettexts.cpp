@@ -16,6 +16,8 @@
 #include <QPushButton>
 #include <QSpinBox>
 #include <QStatusBar>
+#include <QStyle>
+#include <QStyleOption>
 #include <QTabBar>
 #include <QTextDocument>
 #include <QToolButton>
@@ -179,6 +181,14 @@ QSize needOf(const QWidget *widget)
         // A tool button of a tool bar or a dock may be lower than it would like to be.
         return showsText && !button->text().isEmpty() ? QSize(button->sizeHint().width(), 0)
                                                       : QSize();
+    }
+    if (const auto *combo = qobject_cast<const QComboBox *>(widget)) {
+        QStyleOptionComboBox option;
+        option.initFrom(combo);
+        const QRect field = combo->style()->subControlRect(QStyle::CC_ComboBox, &option,
+                                                           QStyle::SC_ComboBoxEditField, combo);
+        const int text = combo->fontMetrics().horizontalAdvance(combo->currentText());
+        return {combo->width() + text - field.width(), 0};
     }
     if (const auto *group = qobject_cast<const QGroupBox *>(widget)) {
         return {group->minimumSizeHint().width(), 0};
