@@ -51,3 +51,5 @@ set(LCTRLSEX_TEST_ENVIRONMENT
   ASAN_OPTIONS=detect_leaks=0:abort_on_error=1:allocator_may_return_null=1
   UBSAN_OPTIONS=print_stacktrace=1)
 file(MAKE_DIRECTORY ${CMAKE_BINARY_DIR}/test-home)
+# Qt complains of a runtime folder that others can read.
+file(CHMOD ${CMAKE_BINARY_DIR}/test-home PERMISSIONS OWNER_READ OWNER_WRITE OWNER_EXECUTE)

@@ -15,6 +15,7 @@ namespace lctrlsex {
 
 namespace {
 
+constexpr int HeadSpace = 5;
 constexpr int LeastLineSpacing = 100;
 constexpr int MostLineSpacing = 195;
 constexpr int MostWordSpacing = 99;
@@ -71,43 +72,51 @@ const QVector<EditToolBar::Entry> &EditToolBar::entries()
          QT_TR_NOOP("Transparent Background"), nullptr, ":images/Transparent.png", true, 0,
          SLOT(TransBgColor()), 0},
         {"actionUseHollow", QT_TR_NOOP("Hollow"), QT_TR_NOOP("Hollow"), nullptr,
-         ":images/hollow.png", true, 0, SLOT(UseHollow()), 0},
+         ":/images/hollow.png", true, 0, SLOT(UseHollow()), 0},
         {"actionStroke", QT_TR_NOOP("Stroke"), QT_TR_NOOP("Stroke"), nullptr, ":images/stroke.png",
          false, 0, nullptr, 0},
         {"actionStrokeColor", QT_TR_NOOP("Stroke Color..."), QT_TR_NOOP("Stroke Color..."), nullptr,
-         ":images/stroke_color.png", false, 0, SLOT(StrokeColor()), 0},
+         ":/images/stroke_color.png", false, 0, SLOT(StrokeColor()), 0},
         {"actionClearStroke", QT_TR_NOOP("Clear Stroke"), QT_TR_NOOP("Clear Stroke"), nullptr,
-         ":images/null.png", false, 0, SLOT(ClearStrokeColor()), 0},
+         ":/images/null.png", false, 0, SLOT(ClearStrokeColor()), 0},
     };
     return list;
 }
 
-EditToolBar::EditToolBar(QToolBar *toolBar, QObject *receiver)
+EditToolBar::EditToolBar(QToolBar *toolBar, QToolBar *secondRow, QObject *receiver)
     : QObject(toolBar)
     , m_toolBar(toolBar)
+    , m_secondRow(secondRow)
     , m_receiver(receiver)
 {
-    m_toolBar->setStyleSheet(
-        QStringLiteral("QToolBar{border-width: 0px;border-style: solid;border-color: #ff0000;}"));
-    // The editor's font is that of its texts; controls look like those of every window.
-    m_toolBar->setFont(QApplication::font());
-    m_toolBar->setIconSize(QSize(16, 16));
+    for (QToolBar *row : {m_toolBar, m_secondRow}) {
+        row->setStyleSheet(QStringLiteral(
+            "QToolBar{border-width: 0px;border-style: solid;border-color: #ff0000;}"));
+        // The editor's font is that of its texts; controls look like those of every window.
+        row->setFont(QApplication::font());
+        row->setIconSize(QSize(16, 16));
+    }
 }
 
 EditToolBar::~EditToolBar() = default;
 
-void EditToolBar::addSpacer(int width)
+void EditToolBar::addSpacer(QToolBar *toolBar, int width)
 {
-    auto *spacer = new QWidget(m_toolBar);
+    auto *spacer = new QWidget(toolBar);
     spacer->setFixedWidth(width);
-    m_toolBar->addWidget(spacer);
+    toolBar->addWidget(spacer);
+}
+
+void EditToolBar::setEnabled(bool on)
+{
+    m_toolBar->setEnabled(on);
+    m_secondRow->setEnabled(on);
 }
 
 void EditToolBar::addEditActions(const QStringList &fonts)
 {
-    constexpr int HeadSpace = 5;
     constexpr int Space = 3;
-    addSpacer(HeadSpace);
+    addSpacer(m_toolBar, HeadSpace);
     m_comboFontAction = new ComboBoxAction(QStringLiteral("comboFont"), this);
     m_comboFontAction->setObjectName(QStringLiteral("comboFontAction"));
     for (const QString &family : fonts) {
@@ -115,11 +124,11 @@ void EditToolBar::addEditActions(const QStringList &fonts)
     }
     m_comboFontAction->comboBox()->setSizeAdjustPolicy(
         QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    m_comboFontAction->comboBox()->setMinimumContentsLength(9);
+    m_comboFontAction->comboBox()->setMinimumContentsLength(11);
     m_toolBar->addAction(m_comboFontAction);
     connect(m_comboFontAction->comboBox(), SIGNAL(currentTextChanged(QString)), m_receiver,
             SLOT(textFamily(QString)));
-    addSpacer(Space);
+    addSpacer(m_toolBar, Space);
     m_comboSizeAction = new ComboBoxAction(QStringLiteral("comboSize"), this);
     m_comboSizeAction->setObjectName(QStringLiteral("comboSizeAction"));
     const QStringList sizes = offeredSizes();
@@ -130,7 +139,7 @@ void EditToolBar::addEditActions(const QStringList &fonts)
     showSize(QFontInfo(QApplication::font()).pointSize());
     connect(m_comboSizeAction->comboBox(), SIGNAL(currentTextChanged(QString)), m_receiver,
             SLOT(textSize(QString)));
-    addSpacer(Space);
+    addSpacer(m_toolBar, Space);
     m_toolBar->addSeparator();
     for (ComboBoxAction *box : {m_comboFontAction, m_comboSizeAction}) {
         box->comboBox()->setStyleSheet(
@@ -195,6 +204,7 @@ void EditToolBar::addTextActions()
     connect(m_vAlignGroup, SIGNAL(triggered(QAction *)), m_receiver, SLOT(textVAlign(QAction *)));
     addEntries(AfterVAlign, AfterAll);
     addStroke();
+    addSpacer(m_secondRow, HeadSpace);
     m_spxWord =
         addSpinBox(QStringLiteral("spxWord"), QStringLiteral("://images/edit_letter_spacing.png"),
                    0, MostWordSpacing, 1, SLOT(WordSpacingChanged(int)));
@@ -224,7 +234,7 @@ MyWidgetAction *EditToolBar::addSpinBox(const QString &name, const QString &icon
     auto *action = new MyWidgetAction(name, QIcon(icon), this);
     action->spinBox()->setRange(least, most);
     action->spinBox()->setSingleStep(step);
-    m_toolBar->addAction(action);
+    m_secondRow->addAction(action);
     connect(action->spinBox(), SIGNAL(valueChanged(int)), m_receiver, slot);
     return action;
 }

@@ -27,14 +27,20 @@ class EditToolBar : public QObject
     Q_OBJECT
 
 public:
-    /** Both stay the caller's; @p receiver has the slots that the actions name. */
-    EditToolBar(QToolBar *toolBar, QObject *receiver);
+    /**
+     * All stay the caller's; @p receiver has the slots that the actions name. The spin boxes, last
+     * in the order, stand on @p secondRow, because one row is too wide for a usual window.
+     */
+    EditToolBar(QToolBar *toolBar, QToolBar *secondRow, QObject *receiver);
     ~EditToolBar() override;
 
     /** Spacers, font and size boxes and a separator. */
     void addEditActions(const QStringList &fonts);
     /** Everything behind them. */
     void addTextActions();
+
+    /** Makes rows usable or not. */
+    void setEnabled(bool on);
 
     /** Sets all texts and tool tips in the current language. */
     void translate();
@@ -99,11 +105,12 @@ private:
     MyWidgetAction *addSpinBox(const QString &name, const QString &icon, int least, int most,
                                int step, const char *slot);
     QAction *make(const Entry &entry);
-    void addSpacer(int width);
 
+    static void addSpacer(QToolBar *toolBar, int width);
     Q_DISABLE_COPY(EditToolBar)
 
     QToolBar *m_toolBar;
+    QToolBar *m_secondRow;
     QObject *m_receiver;
     ComboBoxAction *m_comboFontAction = nullptr;
     ComboBoxAction *m_comboSizeAction = nullptr;

@@ -78,18 +78,21 @@ NodePublisher::Loaded NodePublisher::load()
     const QPointer<LTextEffectNode> node = m_node;
     const int attachment = m_attachment;
     const TextSettings settings = textSettingsOf(node);
-    const QString stored = nodeCall(node, &LTextEffectNode::GetRawHtmlText);
-    const QString plainText = nodeCall(node, &LTextEffectNode::GetPlayText);
+    const Texts texts = {nodeCall(node, &LTextEffectNode::GetRawHtmlText),
+                         nodeCall(node, &LTextEffectNode::GetPlayText),
+                         nodeCall(node, &LTextEffectNode::GetHtmlText),
+                         nodeCall(node, &LTextEffectNode::GetStringContent)};
     Loaded result;
     if (!isStill(node, attachment)) {
         return result;
     }
-    const Readable document = readStored(stored);
-    result.wasNew = stored.isEmpty();
+    const Readable document = readStored(texts.raw);
+    result.wasNew = texts.raw.isEmpty();
     result.notice = document.problem;
     m_keepsStored = !document.problem.isEmpty();
-    m_view->load(m_keepsStored ? asHtml(plainText) : document.html, settings);
-    m_rawText = stored;
+    m_view->load(m_keepsStored ? asHtml(texts.play) : document.html, settings);
+    m_rawText = texts.raw;
+    m_loaded = texts;
     takeAsStored();
     return result;
 }
@@ -97,11 +100,13 @@ NodePublisher::Loaded NodePublisher::load()
 void NodePublisher::replaceStored()
 {
     m_keepsStored = false;
+    m_view->document()->setModified(true);
     m_revision = -1;
 }
 
 void NodePublisher::takeAsStored()
 {
+    m_view->document()->setModified(false);
     m_revision = m_view->document()->revision();
 }
 
@@ -141,28 +146,35 @@ NodePublisher::Pushed NodePublisher::pushNow(const QPointer<LTextEffectNode> &no
     return hasTexts ? Document : Look;
 }
 
+NodePublisher::Texts NodePublisher::textsNow() const
+{
+    if (!m_view->document()->isModified()) {
+        return m_loaded; // byte for byte, whoever wrote it
+    }
+    const QString html = m_view->toHtml();
+    const QString display = QString::fromUtf8(replacePtWithPx(html).toUtf8());
+    return {encodeDocument(html), m_view->toPlainText(), display, display};
+}
+
 /** Writes the texts; false when the node holds the very same document already. */
 bool NodePublisher::storeTexts(const QPointer<LTextEffectNode> &node, int attachment)
 {
-    const QString html = m_view->toHtml();
-    const QString raw = encodeDocument(html);
+    const Texts texts = textsNow();
     m_revision = m_view->document()->revision();
-    const bool isSame = raw == nodeCall(node, &LTextEffectNode::GetRawHtmlText);
-    m_rawText = raw;
+    m_rawText = texts.raw;
+    const bool isSame = texts.raw == nodeCall(node, &LTextEffectNode::GetRawHtmlText);
     if (isSame || !isStill(node, attachment)) {
         return false;
     }
-    const QString playText = m_view->toPlainText();
-    const QString display = QString::fromUtf8(replacePtWithPx(html).toUtf8());
-    node->SetStringContent(display);
+    node->SetStringContent(texts.content);
     if (isStill(node, attachment)) {
-        node->SetRawHtmlText(raw);
+        node->SetRawHtmlText(texts.raw);
     }
     if (isStill(node, attachment)) {
-        node->SetPlayText(playText);
+        node->SetPlayText(texts.play);
     }
     if (isStill(node, attachment)) {
-        node->SetHtmlText(display);
+        node->SetHtmlText(texts.display);
     }
     return true;
 }

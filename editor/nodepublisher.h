@@ -73,6 +73,15 @@ public:
     void resetPosition() { m_position = PagePosition(); }
 
 private:
+    /** The texts that a node keeps of a document. */
+    struct Texts
+    {
+        QString raw;
+        QString play;
+        QString display;
+        QString content;
+    };
+
     /** Tells whether the node of a running operation is still the one that is attached. */
     [[nodiscard]] bool isStill(const QPointer<LTextEffectNode> &node, int attachment) const
     {
@@ -81,6 +90,7 @@ private:
     Pushed pushNow(const QPointer<LTextEffectNode> &node, int attachment);
     bool storeTexts(const QPointer<LTextEffectNode> &node, int attachment);
     void announce(const QPointer<LTextEffectNode> &node, int attachment);
+    [[nodiscard]] Texts textsNow() const;
     [[nodiscard]] static QImage pageFile(const QStringList &files, int page);
 
     Q_DISABLE_COPY(NodePublisher)
@@ -92,6 +102,7 @@ private:
     PageRenderer m_renderer;
     PagePosition m_position;
     QString m_rawText; ///< What the node holds as long as nobody else writes it.
+    Texts m_loaded;    ///< What it held when it was loaded: undoing everything brings it back.
     int m_revision = -1;
     bool m_isLoaded = false;
     bool m_keepsStored = false;

@@ -47,18 +47,24 @@ TextEdit::TextEdit(QWidget *parent)
     m_view->installEventFilter(this);
     auto *toolBar = new QToolBar(this);
     toolBar->setObjectName(QStringLiteral("FormatToolBar"));
-    m_toolBar = std::make_unique<lctrlsex::EditToolBar>(toolBar, this);
+    m_dataToolBar = new QToolBar(this);
+    m_dataToolBar->setObjectName(QStringLiteral("DataToolBar"));
+    m_toolBar = std::make_unique<lctrlsex::EditToolBar>(toolBar, m_dataToolBar, this);
     m_mergeTimer.setSingleShot(true);
     m_mergeTimer.setInterval(MergeDelay);
     connect(&m_mergeTimer, SIGNAL(timeout()), this, SLOT(performSmartMerge()));
 
     setupEditActions(toolBar);
     setupTextActions();
+    m_dataToolBar->addSeparator();
+    const auto buttons = m_binding->buttons();
+    for (QWidget *button : buttons) {
+        m_dataToolBar->addWidget(button);
+    }
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
     layout->addWidget(toolBar);
-    m_dataToolBar = makeDataToolBar();
     layout->addWidget(m_dataToolBar);
     layout->addWidget(noticeStrip());
     layout->addWidget(m_view, 1);
@@ -98,19 +104,6 @@ void TextEdit::setupTextActions()
     });
 }
 
-QToolBar *TextEdit::makeDataToolBar()
-{
-    auto *toolBar = new QToolBar(this);
-    toolBar->setObjectName(QStringLiteral("DataToolBar"));
-    toolBar->setFont(m_toolBar->toolBar()->font());
-    toolBar->setStyleSheet(m_toolBar->toolBar()->styleSheet());
-    const auto buttons = m_binding->buttons();
-    for (QWidget *button : buttons) {
-        toolBar->addWidget(button);
-    }
-    return toolBar;
-}
-
 QWidget *TextEdit::noticeStrip()
 {
     m_notice = new QFrame(this);
@@ -147,8 +140,7 @@ void TextEdit::setUsable(bool on)
 {
     m_view->setReadOnly(!on);
     m_view->setEnabled(on || m_publisher->keepsStored());
-    m_toolBar->toolBar()->setEnabled(on);
-    m_dataToolBar->setEnabled(on);
+    m_toolBar->setEnabled(on);
 }
 
 void TextEdit::CreateConnect()

@@ -205,7 +205,6 @@ private:
     void alignmentChanged(Qt::Alignment align);
     void SetStrokeColorButtonImage(const QColor &color);
 
-    QToolBar *makeDataToolBar();
     QWidget *noticeStrip();
     void showNotice(const QString &text);
     void setUsable(bool on);

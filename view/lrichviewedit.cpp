@@ -159,7 +159,7 @@ void LRichViewEdit::paintPageEdges(const QRect &region)
     }
     QPainter painter(viewport());
     painter.fillRect(QRect(QPoint(right, region.top()), region.bottomRight()),
-                     palette().color(QPalette::Window));
+                     parentWidget()->palette().color(QPalette::Window));
     painter.setPen(QPen(QColor(160, 160, 160), 0, Qt::DashLine));
     painter.drawLine(right, 0, right, viewport()->height());
     for (; edge <= region.bottom(); edge += height) {

@@ -130,7 +130,8 @@ void draw(QPainter *painter, Drawing drawing, const QColor &color)
         painter->setPen(Qt::NoPen);
         painter->setBrush(color);
         for (int i = 0; i < 9; ++i) {
-            painter->drawEllipse(QPointF(3.5 + 4.5 * (i % 3), 3.5 + 4.5 * (i / 3)), 1.5, 1.5);
+            const int row = i / 3;
+            painter->drawEllipse(QPointF(3.5 + 4.5 * (i % 3), 3.5 + 4.5 * row), 1.5, 1.5);
         }
         break;
     case Drawing::Information:

@@ -134,8 +134,15 @@ void EditorPane::rebind()
 {
     const QPointer<LTextEffectNode> node(m_node);
     const QPointer<QWidget> focused(QApplication::focusWidget());
+    const QTextEdit *before = textView();
+    const int position = before != nullptr ? before->textCursor().position() : 0;
     bind(nullptr);
     bind(node);
+    if (QTextEdit *view = textView()) {
+        QTextCursor cursor(view->document());
+        cursor.setPosition(qMin(position, view->document()->characterCount() - 1));
+        view->setTextCursor(cursor);
+    }
     // Hidden in between, the view has lost the focus that it may have had.
     if (focused) {
         focused->setFocus();

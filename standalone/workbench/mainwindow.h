@@ -39,8 +39,8 @@ class WallPanel;
  * The workbench's window: the programme's tree, the editor of the current item with its
  * properties, and the wall.
  *
- * Bodies are in a file a topic: mainwindow (life), mainwindow_actions (menus), mainwindow_files,
- * mainwindow_docks and mainwindow_selection.
+ * Bodies are in a file a topic: mainwindow (life), mainwindow_actions (menus), mainwindow_view,
+ * mainwindow_files, mainwindow_recovery, mainwindow_docks and mainwindow_selection.
  */
 class MainWindow : public QMainWindow
 {

@@ -79,8 +79,11 @@ void MainWindow::restore(const Recovery &recovery)
     const ProgrammeError error = m_document->restore(programme, recovery.original);
     if (error.isSet()) {
         noteError(recovery.journal, error);
-    } else {
-        m_autosave->adopt(recovery.journal);
+    } else if (!m_autosave->adopt(recovery.journal)) {
+        ProgrammeError taken;
+        taken.reason = tr("another workbench has restored this copy too");
+        taken.remedy = tr("save one of the two under another name");
+        noteError(recovery.journal, taken);
     }
     offerNextRecovery();
 }

@@ -164,9 +164,15 @@ void TestEditorNode::loadingWritesNothing()
     item.key(Qt::Key_End);
     item.action("actionUseHollow")->trigger();
     item.settle();
+    QCOMPARE(changed, QStringList{"UseHollow"});
+    item.type("edited");
+    item.settle();
+    QVERIFY(item.node->GetRawHtmlText() != raw);
+    item.view->undo();
+    item.settle();
+    QCOMPARE(item.node->GetRawHtmlText(), raw);
     item.client->Finish();
     QCOMPARE(item.node->GetRawHtmlText(), raw);
-    QCOMPARE(changed, QStringList{"UseHollow"});
 }
 
 void TestEditorNode::aNewItemStartsWhiteAndUntouched()

@@ -1,9 +1,11 @@
 #pragma once
 
 #include "ltexteffectnode.h"
+#include "programmedocument.h"
 
 #include <QPointer>
 #include <QSignalBlocker>
+#include <QTextCursor>
 #include <QTextEdit>
 #include <QVBoxLayout>
 #include <QWidget>
@@ -58,4 +60,41 @@ public:
     QPointer<LTextEffectNode> node;
     int pushes = 0;
     bool pushesLoaded = true; ///< Whether a text is pushed when it was only loaded.
+};
+
+/** An editor that the document binds anew as the window does. */
+class BoundEditor : public ItemEditor
+{
+public:
+    explicit BoundEditor(workbench::ProgrammeDocument *programme)
+        : document(programme)
+    {
+        connect(programme, &workbench::ProgrammeDocument::reloadItem, this,
+                [this](LTextEffectNode *item) {
+                    if (item == node) {
+                        showItem(item);
+                    }
+                });
+        connect(programme, &workbench::ProgrammeDocument::aboutToReplace, this,
+                [this] { showItem(nullptr); });
+    }
+    void showItem(LTextEffectNode *item)
+    {
+        document->detachTextEditor();
+        bind(item);
+        document->attachTextEditor(item, view);
+        ++bindings;
+    }
+    void type(const QString &text, const QColor &color = {})
+    {
+        QTextCursor cursor(view->document());
+        cursor.movePosition(QTextCursor::End);
+        QTextCharFormat format;
+        if (color.isValid()) {
+            format.setForeground(color);
+        }
+        cursor.insertText(text, format);
+    }
+    workbench::ProgrammeDocument *const document;
+    int bindings = 0;
 };

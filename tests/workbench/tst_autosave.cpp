@@ -176,6 +176,20 @@ void TestAutosave::placesForJournals()
     QVERIFY(QFile::remove(recoveryFolder()));
     autosave.flush();
     QVERIFY(QFile::exists(autosave.journalFile()));
+
+    // The folder of the file goes while it is edited, as that of a stick does.
+    const QString sub = m_folder->filePath(QStringLiteral("stick"));
+    QVERIFY(QDir().mkpath(sub));
+    QVERIFY(!saved(&document, QStringLiteral("stick/c.programme.json")).isEmpty());
+    QVERIFY(document.addScreen());
+    autosave.flush();
+    QVERIFY(autosave.journalFile().startsWith(sub));
+    QVERIFY(QDir(sub).removeRecursively());
+    QVERIFY(document.addScreen());
+    autosave.flush();
+    QTRY_COMPARE(failed.size(), 2);
+    autosave.flush();
+    QVERIFY(QFile::exists(autosave.journalFile()));
 }
 
 void TestAutosave::whatIsFoundLater()

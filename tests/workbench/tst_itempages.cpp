@@ -10,6 +10,8 @@
 #include <QProcess>
 #include <QtTest>
 
+#include <ctime>
+
 using namespace workbench;
 
 class TestItemPages : public QObject
@@ -133,17 +135,19 @@ void TestItemPages::filesAreBounded()
     item->SetSize(QSize(40, 16));
     write(item, 600);
     pages.watch(item);
-    QElapsedTimer gap;
-    qint64 longest = 0;
-    QTimer heart;
     // The first turn lays the document out, which takes what it takes.
     QTRY_VERIFY(!files(item).isEmpty());
-    connect(&heart, &QTimer::timeout, this, [&] { longest = qMax(longest, gap.restart()); });
+    std::clock_t before = std::clock();
+    std::clock_t longest = 0; // of processor time, whatever else the machine does
+    QTimer heart;
+    connect(&heart, &QTimer::timeout, this, [&] {
+        longest = qMax(longest, std::clock() - before);
+        before = std::clock();
+    });
     heart.start(0);
-    gap.start();
     QTRY_COMPARE_WITH_TIMEOUT(files(item).size(), 500, 20000);
     QVERIFY(item->GetPageCount() >= 600);
-    QVERIFY2(longest < 50, qPrintable(QString::number(longest)));
+    QVERIFY2(longest < CLOCKS_PER_SEC / 20, qPrintable(QString::number(longest)));
     QTest::qWait(50);
     QCOMPARE(files(item).size(), 500);
 }

@@ -1,6 +1,7 @@
 #include "autosave.h"
 
 #include "journalwriter.h"
+#include "movefile.h"
 #include "programmedocument.h"
 
 #include <QDir>
@@ -15,14 +16,12 @@ namespace {
 constexpr int WriteDelay = 2000;
 constexpr int MostAttempts = 100;
 
-/** A name in @p folder that is free for @p file, which is then called so; empty if there is none.
- */
+/** Gives @p file a journal's name in @p folder that is free, and tells it; empty if none is. */
 QString moveToFreeName(const QString &file, const QString &folder, const QString &original)
 {
     for (int attempt = 1; attempt <= MostAttempts; ++attempt) {
         const QString name = folder + QLatin1Char('/') + journalName(original, attempt);
-        // Renaming never replaces a file, so that of two processes one gets the name.
-        if (QFile::rename(file, name)) {
+        if (moveFile(file, name)) {
             return name;
         }
     }
@@ -69,6 +68,9 @@ Autosave::Autosave(ProgrammeDocument *document, QObject *parent)
     connect(document, &ProgrammeDocument::saved, this, &Autosave::rememberOriginal);
     connect(m_writer.get(), &JournalWriter::failed, this, [this](const QString &reason) {
         m_written.clear();
+        if (!QFileInfo::exists(m_journal)) {
+            m_journal.clear(); // its folder is gone: look for another one
+        }
         emit failed(reason);
     });
     rememberOriginal();
@@ -151,10 +153,9 @@ bool Autosave::adopt(const QString &journal)
     if (!m_document) {
         return false;
     }
-    // Of two processes that want it only one finds the file to be renamed.
     const QString folder = QFileInfo(journal).absolutePath();
     const QString taken = newName(folder);
-    if (!QFile::rename(journal, taken)) {
+    if (!moveFile(journal, taken)) {
         return false;
     }
     drop();

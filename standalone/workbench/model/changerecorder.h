@@ -45,8 +45,6 @@ public:
      * before. A view that shows the node must be attached anew when its text was among them.
      */
     bool change(LNode *node, const QVariantMap &values, const QString &name);
-    /** Whether changes wait for the end of the turn. */
-    [[nodiscard]] bool hasPending() const { return !m_dirty.isEmpty(); }
     /** Forgets what is known of nodes; for another programme. */
     void reset();
 

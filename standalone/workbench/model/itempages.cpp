@@ -27,7 +27,7 @@ bool isShown(const QString &key)
     static const QSet<QString> hidden = [] {
         QSet<QString> keys{QStringLiteral("Name"), QStringLiteral("PlayText")};
 #define NODE_ATTRIBUTE(Class, Type, Getter, Setter, Key, Default)                                  \
-    if (Class == LEffectNode || Class == LNode) {                                                  \
+    if ((Class) == LEffectNode || (Class) == LNode) {                                              \
         keys.insert(QStringLiteral(Key));                                                          \
     }
 #include "nodeattributes.def"

@@ -8,6 +8,8 @@
 #include <QDataStream>
 #include <QMimeData>
 
+#include <algorithm>
+
 namespace workbench {
 
 static const QString NodeType = QStringLiteral("application/x-lctrlsex-programme-node");
@@ -54,9 +56,11 @@ LNode *ProgrammeTreeModel::dragged(const QMimeData *data) const
         return nullptr;
     }
     // Looked up, not used: the node may be gone since.
-    auto *const node = reinterpret_cast<LNode *>(quintptr(address));
-    const Entry *const entry = m_entries.value(node);
-    return entry ? entry->node : nullptr;
+    const auto found =
+        std::find_if(m_entries.cbegin(), m_entries.cend(), [address](const Entry *entry) {
+            return reinterpret_cast<quintptr>(entry->node) == address;
+        });
+    return found == m_entries.cend() ? nullptr : (*found)->node;
 }
 
 bool ProgrammeTreeModel::canDropMimeData(const QMimeData *data, Qt::DropAction action, int,

@@ -1,6 +1,7 @@
 #include "recovery.h"
 
 #include "journal.h"
+#include "movefile.h"
 
 #include <QDir>
 #include <QFile>
@@ -27,7 +28,7 @@ Recovery broken(const QString &journal, const QString &reason)
     recovery.state = Recovery::Broken;
     recovery.reason = reason;
     const QString aside = asideName(journal);
-    recovery.journal = QFile::rename(journal, aside) ? aside : journal;
+    recovery.journal = moveFile(journal, aside) ? aside : journal;
     return recovery;
 }
 
