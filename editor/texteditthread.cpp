@@ -31,6 +31,9 @@ void TextEditThread::SetText(QString &text)
 void TextEditThread::SetDocument(QTextDocument *document)
 {
     m_document = document;
+    if (document != nullptr) {
+        (void)document->rootFrame(); // made on first use, which must be in the document's thread
+    }
 }
 
 void TextEditThread::setMeasureOnly(bool measureOnly)
