@@ -36,12 +36,12 @@ Readable readStored(const QString &stored)
     if (!decoded.error.isEmpty()) {
         return {
             QString(),
-            NodePublisherTexts::tr("The stored document cannot be read: %1.").arg(decoded.error)};
+            NodePublisherTexts::tr("The stored document cannot be read: %1").arg(decoded.error)};
     }
     const GuardedHtml guarded = guardHtml(decoded.html);
     if (!guarded.accepted) {
         return {QString(), NodePublisherTexts::tr(
-                               "The stored document cannot be shown (line %1, column %2): %3. %4.")
+                               "The stored document cannot be shown (line %1, column %2): %3 %4")
                                .arg(guarded.line)
                                .arg(guarded.column)
                                .arg(guarded.reason, guarded.remedy)};
@@ -95,6 +95,11 @@ NodePublisher::Loaded NodePublisher::load()
     m_loaded = texts;
     takeAsStored();
     return result;
+}
+
+QString NodePublisher::notice() const
+{
+    return m_keepsStored ? readStored(m_rawText).problem : QString();
 }
 
 void NodePublisher::replaceStored()

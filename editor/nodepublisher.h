@@ -41,6 +41,8 @@ public:
     /** Lets the view's text take the place of a stored document that cannot be shown. */
     void replaceStored();
     [[nodiscard]] bool keepsStored() const { return m_keepsStored; }
+    /** Why the stored document is kept, in the current language; empty when it is not. */
+    [[nodiscard]] QString notice() const;
 
     /** While not loaded, changes of the document are not the user's and nothing is pushed. */
     void setLoaded(bool on) { m_isLoaded = on; }

@@ -184,6 +184,7 @@ void TextEdit::Translate()
     m_noticeButton->setText(tr("Edit as Plain Text"));
     m_noticeButton->setToolTip(tr("The stored document is replaced by what you see here"));
     m_view->setAccessibleName(tr("Text"));
+    m_noticeLabel->setText(m_publisher->notice());
 }
 
 bool TextEdit::Contain(int value)

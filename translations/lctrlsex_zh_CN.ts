@@ -5,704 +5,1921 @@
     <name>DocumentStorage</name>
     <message>
         <source>The stored text is cut off at character %1; restore it from a copy.</source>
-        <translation type="unfinished"></translation>
+        <translation>存储的文本在第 %1 个字符处被截断；请用副本恢复。</translation>
     </message>
     <message>
         <source>The stored text is damaged before its end at character %1; restore it from a copy.</source>
-        <translation type="unfinished"></translation>
+        <translation>存储的文本在结束前的第 %1 个字符处已损坏；请用副本恢复。</translation>
     </message>
     <message>
         <source>The stored text has a character that does not belong there (U+%1) at position %2; restore it from a copy.</source>
-        <translation type="unfinished"></translation>
+        <translation>存储的文本含有不应出现的字符（U+%1，位置 %2）；请用副本恢复。</translation>
     </message>
     <message>
         <source>The stored text goes on behind its end at position %1; restore it from a copy.</source>
-        <translation type="unfinished"></translation>
+        <translation>存储的文本在位置 %1 结束之后仍有内容；请用副本恢复。</translation>
     </message>
     <message>
         <source>The stored text is not valid UTF-8 from byte %1 on; restore it from a copy.</source>
-        <translation type="unfinished"></translation>
+        <translation>存储的文本从第 %1 个字节起不是有效的 UTF-8；请用副本恢复。</translation>
     </message>
 </context>
 <context>
     <name>FontFolder</name>
     <message>
         <source>Cannot make the link %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>无法创建链接 %1：%2</translation>
     </message>
     <message>
         <source>Cannot make the folder %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>无法创建文件夹 %1：%2</translation>
     </message>
     <message>
         <source>The system has no regular TrueType font; install one or put font files into %1</source>
-        <translation type="unfinished"></translation>
+        <translation>系统中没有常规的 TrueType 字体；请安装字体，或将字体文件放入 %1</translation>
     </message>
 </context>
 <context>
     <name>HtmlGuard</name>
     <message>
         <source>More than 500 elements are open at once.</source>
-        <translation type="unfinished"></translation>
+        <translation>同时打开的元素超过 500 个。</translation>
     </message>
     <message>
         <source>Close elements before new ones are opened.</source>
-        <translation type="unfinished"></translation>
+        <translation>请先关闭元素，再打开新的元素。</translation>
     </message>
     <message>
         <source>Lists are nested more than 50 deep.</source>
-        <translation type="unfinished"></translation>
+        <translation>列表嵌套超过 50 层。</translation>
     </message>
     <message>
         <source>Use fewer levels of lists.</source>
-        <translation type="unfinished"></translation>
+        <translation>请减少列表的层数。</translation>
     </message>
     <message>
         <source>Tables are nested more than 4 deep.</source>
-        <translation type="unfinished"></translation>
+        <translation>表格嵌套超过 4 层。</translation>
     </message>
     <message>
         <source>Put the content into one table.</source>
-        <translation type="unfinished"></translation>
+        <translation>请将内容放入一个表格。</translation>
     </message>
     <message>
         <source>There are more than 256 tables.</source>
-        <translation type="unfinished"></translation>
+        <translation>表格超过 256 个。</translation>
     </message>
     <message>
         <source>Join tables or divide the text into several items.</source>
-        <translation type="unfinished"></translation>
+        <translation>请合并表格，或将文本分成多个文本项。</translation>
     </message>
     <message>
         <source>A table has more than 1000 columns.</source>
-        <translation type="unfinished"></translation>
+        <translation>有表格超过 1000 列。</translation>
     </message>
     <message>
         <source>Remove columns or column spans.</source>
-        <translation type="unfinished"></translation>
+        <translation>请删除列或跨列合并。</translation>
     </message>
     <message>
         <source>A table has more than 200000 cells.</source>
-        <translation type="unfinished"></translation>
+        <translation>有表格超过 200000 个单元格。</translation>
     </message>
     <message>
         <source>Bind the table to a data source instead of storing its rows.</source>
-        <translation type="unfinished"></translation>
+        <translation>请将表格绑定到数据源，而不是存储所有行。</translation>
     </message>
     <message>
         <source>A table or list stands inside an element that is not shown.</source>
-        <translation type="unfinished"></translation>
+        <translation>有表格或列表位于不显示的元素之内。</translation>
     </message>
     <message>
         <source>Move it out of the head or title of the document.</source>
-        <translation type="unfinished"></translation>
+        <translation>请将其移出文档的头部或标题。</translation>
     </message>
     <message>
         <source>A table stands inside another one but in no cell that it could have.</source>
-        <translation type="unfinished"></translation>
+        <translation>有表格位于另一表格之内，却不在其任何单元格中。</translation>
     </message>
     <message>
         <source>Put the inner table into a cell without overlapping spans.</source>
-        <translation type="unfinished"></translation>
+        <translation>请将内层表格放入没有重叠合并的单元格。</translation>
     </message>
     <message>
         <source>There are more than 256 floating images and tables.</source>
-        <translation type="unfinished"></translation>
+        <translation>浮动的图片和表格超过 256 个。</translation>
     </message>
     <message>
         <source>Put images and tables into the flow of the text.</source>
-        <translation type="unfinished"></translation>
+        <translation>请将图片和表格嵌入文本行中。</translation>
     </message>
     <message>
         <source>The text is taller than 3000000 pixels.</source>
-        <translation type="unfinished"></translation>
+        <translation>文本高度超过 3000000 像素。</translation>
     </message>
     <message>
         <source>Shorten the text or use smaller letters and margins.</source>
-        <translation type="unfinished"></translation>
+        <translation>请缩短文本，或使用较小的字号和边距。</translation>
     </message>
     <message>
         <source>A table is wider than 4000000 pixels.</source>
-        <translation type="unfinished"></translation>
+        <translation>有表格的宽度超过 4000000 像素。</translation>
     </message>
     <message>
         <source>Remove columns or make them narrower.</source>
-        <translation type="unfinished"></translation>
+        <translation>请删除列或缩小列宽。</translation>
     </message>
     <message>
         <source>A paragraph is too long to lay out.</source>
-        <translation type="unfinished"></translation>
+        <translation>有段落过长，无法排版。</translation>
     </message>
     <message>
         <source>Divide the text into paragraphs.</source>
-        <translation type="unfinished"></translation>
+        <translation>请将文本分段。</translation>
     </message>
     <message>
         <source>The text takes too long to lay out.</source>
-        <translation type="unfinished"></translation>
+        <translation>文本排版耗时过长。</translation>
     </message>
     <message>
         <source>Divide the text into several items.</source>
-        <translation type="unfinished"></translation>
+        <translation>请将文本分成多个文本项。</translation>
     </message>
     <message>
         <source>Long words, images in long lines or deep nesting make the text too slow.</source>
-        <translation type="unfinished"></translation>
+        <translation>过长的单词、长行中的图片或过深的嵌套使文本处理过慢。</translation>
     </message>
     <message>
         <source>Put blanks into long words and divide long paragraphs.</source>
-        <translation type="unfinished"></translation>
+        <translation>请在过长的单词中加入空格，并拆分过长的段落。</translation>
     </message>
     <message>
         <source>The text takes too much memory.</source>
-        <translation type="unfinished"></translation>
+        <translation>文本占用的内存过多。</translation>
     </message>
     <message>
         <source>The text is longer than 8388608 characters.</source>
-        <translation type="unfinished"></translation>
+        <translation>文本超过 8388608 个字符。</translation>
     </message>
     <message>
         <source>The markup is too disordered to be read safely.</source>
-        <translation type="unfinished"></translation>
+        <translation>标记过于混乱，无法安全读取。</translation>
     </message>
     <message>
         <source>Enter the text anew.</source>
-        <translation type="unfinished"></translation>
+        <translation>请重新输入文本。</translation>
     </message>
 </context>
 <context>
     <name>ItemCheck</name>
     <message>
         <source>text</source>
-        <translation type="unfinished"></translation>
+        <translation>文本</translation>
     </message>
     <message>
         <source>there are %1 more of these</source>
-        <translation type="unfinished"></translation>
+        <translation>此类问题还有 %1 个</translation>
     </message>
     <message>
         <source>mend the ones above first</source>
-        <translation type="unfinished"></translation>
+        <translation>请先解决上述问题</translation>
     </message>
     <message>
         <source>characters</source>
-        <translation type="unfinished"></translation>
+        <translation>字符</translation>
     </message>
     <message>
         <source>no installed font shows %1</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source> and %1 more</source>
-        <translation type="unfinished"></translation>
+        <translation>已安装的字体都无法显示 %1</translation>
     </message>
     <message>
         <source>install a font that has them or choose other characters</source>
-        <translation type="unfinished"></translation>
+        <translation>请安装包含这些字符的字体，或改用其他字符</translation>
     </message>
     <message>
         <source>it is wider than the item and cut at the side</source>
-        <translation type="unfinished"></translation>
+        <translation>宽度超出文本项，侧边被裁切</translation>
     </message>
     <message>
         <source>use a smaller font or a wider item, or break the line</source>
-        <translation type="unfinished"></translation>
+        <translation>请使用较小的字号或较宽的文本项，或者换行</translation>
     </message>
     <message>
         <source>text %1</source>
-        <translation type="unfinished"></translation>
+        <translation>文本 %1</translation>
     </message>
     <message>
         <source>it is higher than the item and cut</source>
-        <translation type="unfinished"></translation>
+        <translation>高度超出文本项，已被裁切</translation>
     </message>
     <message>
         <source>use a smaller font or a higher item</source>
-        <translation type="unfinished"></translation>
+        <translation>请使用较小的字号或较高的文本项</translation>
     </message>
     <message>
         <source>%1 x %2 pixels</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 x %2 像素</translation>
     </message>
     <message>
         <source>it is larger than the item</source>
-        <translation type="unfinished"></translation>
+        <translation>大于文本项</translation>
     </message>
     <message>
         <source>make the image smaller than %1 x %2 pixels</source>
-        <translation type="unfinished"></translation>
+        <translation>请将图片缩小到 %1 x %2 像素以内</translation>
     </message>
     <message>
         <source>image %1, %2</source>
-        <translation type="unfinished"></translation>
+        <translation>图片 %1，%2</translation>
     </message>
     <message>
         <source>it has the colour of its ground</source>
-        <translation type="unfinished"></translation>
+        <translation>颜色与背景相同</translation>
     </message>
     <message>
         <source>change the colour of the text or of the ground</source>
-        <translation type="unfinished"></translation>
+        <translation>请更改文本或背景的颜色</translation>
+    </message>
+    <message>
+        <source>no installed font shows %1 and %2 more</source>
+        <translation>已安装的字体都无法显示 %1 以及另外 %2 个字符</translation>
     </message>
 </context>
 <context>
     <name>ItemRenderer</name>
     <message>
         <source>size</source>
-        <translation type="unfinished"></translation>
+        <translation>大小</translation>
     </message>
     <message>
         <source>%1 x %2 pixels is no page size</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 x %2 像素不是有效的页面大小</translation>
     </message>
     <message>
         <source>give both sides from 1 to %1 pixels, %2 million in all</source>
-        <translation type="unfinished"></translation>
+        <translation>请将两边设为 1 到 %1 像素，总计不超过 %2 百万像素</translation>
     </message>
     <message>
         <source>text</source>
-        <translation type="unfinished"></translation>
+        <translation>文本</translation>
     </message>
     <message>
         <source>it has more than %1 pages</source>
-        <translation type="unfinished"></translation>
+        <translation>超过 %1 页</translation>
     </message>
     <message>
         <source>make the item higher or its text shorter</source>
-        <translation type="unfinished"></translation>
+        <translation>请增加文本项的高度或缩短文本</translation>
     </message>
     <message>
         <source>image %1</source>
-        <translation type="unfinished"></translation>
+        <translation>图片 %1</translation>
     </message>
     <message>
         <source>font %1</source>
-        <translation type="unfinished"></translation>
+        <translation>字体 %1</translation>
     </message>
     <message>
         <source>it is not installed, another font would be shown</source>
-        <translation type="unfinished"></translation>
+        <translation>未安装，将以其他字体显示</translation>
     </message>
     <message>
         <source>install the font or choose another one</source>
-        <translation type="unfinished"></translation>
+        <translation>请安装该字体或选择其他字体</translation>
     </message>
     <message>
         <source>document</source>
-        <translation type="unfinished"></translation>
+        <translation>文档</translation>
     </message>
     <message>
         <source>restore the programme file from a copy; the stored text is kept as it is</source>
-        <translation type="unfinished"></translation>
+        <translation>请用副本恢复节目文件；存储的文本保持原样</translation>
     </message>
     <message>
         <source>document line %1 column %2</source>
-        <translation type="unfinished"></translation>
+        <translation>文档第 %1 行第 %2 列</translation>
+    </message>
+</context>
+<context>
+    <name>Journals</name>
+    <message>
+        <source>it is not whole: what it holds does not match its checksum</source>
+        <translation>副本不完整：内容与校验和不符</translation>
+    </message>
+    <message>
+        <source>it is no copy that was saved automatically</source>
+        <translation>这不是自动保存的副本</translation>
+    </message>
+    <message>
+        <source>it was written by another release</source>
+        <translation>副本由其他版本写入</translation>
+    </message>
+    <message>
+        <source>it cannot be read: %1</source>
+        <translation>无法读取：%1</translation>
+    </message>
+    <message>
+        <source>it is too large</source>
+        <translation>文件过大</translation>
     </message>
 </context>
 <context>
     <name>LEffectNode</name>
     <message>
         <source>No Effect</source>
-        <translation type="unfinished"></translation>
+        <translation>无特技</translation>
     </message>
     <message>
         <source>Random</source>
-        <translation type="unfinished"></translation>
+        <translation>随机</translation>
     </message>
     <message>
         <source>Slide Left</source>
-        <translation type="unfinished"></translation>
+        <translation>左移</translation>
     </message>
     <message>
         <source>Slide Right</source>
-        <translation type="unfinished"></translation>
+        <translation>右移</translation>
     </message>
     <message>
         <source>Slide Up</source>
-        <translation type="unfinished"></translation>
+        <translation>上移</translation>
     </message>
     <message>
         <source>Slide Down</source>
-        <translation type="unfinished"></translation>
+        <translation>下移</translation>
     </message>
     <message>
         <source>Wipe Left</source>
-        <translation type="unfinished"></translation>
+        <translation>向左擦除</translation>
     </message>
     <message>
         <source>Wipe Right</source>
-        <translation type="unfinished"></translation>
+        <translation>向右擦除</translation>
     </message>
     <message>
         <source>Wipe Up</source>
-        <translation type="unfinished"></translation>
+        <translation>向上擦除</translation>
     </message>
     <message>
         <source>Wipe Down</source>
-        <translation type="unfinished"></translation>
+        <translation>向下擦除</translation>
     </message>
     <message>
         <source>Horizontal Blinds</source>
-        <translation type="unfinished"></translation>
+        <translation>水平百叶窗</translation>
     </message>
     <message>
         <source>Vertical Blinds</source>
-        <translation type="unfinished"></translation>
+        <translation>垂直百叶窗</translation>
     </message>
     <message>
         <source>Fade</source>
-        <translation type="unfinished"></translation>
+        <translation>淡入淡出</translation>
     </message>
     <message>
         <source>Mosaic</source>
-        <translation type="unfinished"></translation>
+        <translation>马赛克</translation>
     </message>
     <message>
         <source>Laser</source>
-        <translation type="unfinished"></translation>
+        <translation>激光</translation>
     </message>
     <message>
         <source>Curtain Open</source>
-        <translation type="unfinished"></translation>
+        <translation>幕布拉开</translation>
     </message>
     <message>
         <source>Curtain Close</source>
-        <translation type="unfinished"></translation>
+        <translation>幕布合拢</translation>
     </message>
     <message>
         <source>Curtain Up</source>
-        <translation type="unfinished"></translation>
+        <translation>幕布升起</translation>
     </message>
     <message>
         <source>Curtain Down</source>
-        <translation type="unfinished"></translation>
+        <translation>幕布落下</translation>
     </message>
     <message>
         <source>Scroll</source>
-        <translation type="unfinished"></translation>
+        <translation>卷轴</translation>
     </message>
     <message>
         <source>Snow</source>
-        <translation type="unfinished"></translation>
+        <translation>飘雪</translation>
     </message>
     <message>
         <source>Keep Page</source>
-        <translation type="unfinished"></translation>
+        <translation>保持画面</translation>
     </message>
     <message>
         <source>Box Out</source>
-        <translation type="unfinished"></translation>
+        <translation>方框展开</translation>
     </message>
     <message>
         <source>Box In</source>
-        <translation type="unfinished"></translation>
+        <translation>方框收缩</translation>
     </message>
     <message>
         <source>Blink</source>
-        <translation type="unfinished"></translation>
+        <translation>闪烁</translation>
     </message>
     <message>
         <source>Checkerboard</source>
-        <translation type="unfinished"></translation>
+        <translation>棋盘格</translation>
+    </message>
+</context>
+<context>
+    <name>Lum::LTextPlugin::LTextClient</name>
+    <message>
+        <source>Play Time</source>
+        <translation>播放时间</translation>
+    </message>
+    <message>
+        <source>Hold</source>
+        <translation>停留</translation>
+    </message>
+    <message>
+        <source>Continuous Move Up</source>
+        <translation>连续上移</translation>
+    </message>
+    <message>
+        <source>Continuous Move Right</source>
+        <translation>连续右移</translation>
+    </message>
+    <message>
+        <source>Continuous Move Left</source>
+        <translation>连续左移</translation>
+    </message>
+    <message>
+        <source>1 fast</source>
+        <translation>1 最快</translation>
+    </message>
+    <message>
+        <source>9 slow</source>
+        <translation>9 最慢</translation>
+    </message>
+    <message>
+        <source>By Time</source>
+        <translation>按时长</translation>
+    </message>
+    <message>
+        <source>By Count</source>
+        <translation>按次数</translation>
+    </message>
+    <message>
+        <source>Continuous Move</source>
+        <translation>连续移动</translation>
+    </message>
+    <message>
+        <source>Page</source>
+        <translation>页面</translation>
+    </message>
+    <message>
+        <source>Return</source>
+        <translation>返回</translation>
+    </message>
+    <message>
+        <source>Attributes</source>
+        <translation>属性</translation>
+    </message>
+    <message>
+        <source>No Effect</source>
+        <translation>无特技</translation>
+    </message>
+    <message>
+        <source>Random</source>
+        <translation>随机</translation>
+    </message>
+    <message>
+        <source>Display</source>
+        <translation>显示</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>速度</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>清屏</translation>
+    </message>
+    <message>
+        <source> s</source>
+        <translation> 秒</translation>
+    </message>
+    <message>
+        <source>Conditional Style Settings</source>
+        <translation>条件样式设置</translation>
+    </message>
+    <message>
+        <source>Operation Settings</source>
+        <translation>运算设置</translation>
+    </message>
+    <message>
+        <source>Bind Table</source>
+        <translation>绑定表格</translation>
+    </message>
+    <message>
+        <source>Not bound</source>
+        <translation>未绑定</translation>
+    </message>
+    <message>
+        <source>Identifier</source>
+        <translation>标识</translation>
+    </message>
+    <message>
+        <source>The use of dynamic data sources for violent, terrorist, pornographic, or other illegal information is strictly prohibited. Any violations will be dealt with in accordance with relevant laws and regulations.</source>
+        <translation>严禁利用动态数据源发布暴力、恐怖、色情等违法信息，违者将依照相关法律法规处理。</translation>
+    </message>
+    <message>
+        <source>Previous page</source>
+        <translation>上一页</translation>
+    </message>
+    <message>
+        <source>Next page</source>
+        <translation>下一页</translation>
+    </message>
+    <message>
+        <source>Leave editing</source>
+        <translation>退出编辑</translation>
+    </message>
+    <message>
+        <source>Seconds for which the item plays</source>
+        <translation>播放该文本项的秒数</translation>
+    </message>
+    <message>
+        <source>Loop</source>
+        <translation>循环</translation>
+    </message>
+    <message>
+        <source>Number of times that the item plays</source>
+        <translation>播放该文本项的次数</translation>
+    </message>
+    <message>
+        <source>Show and clear pages without an effect</source>
+        <translation>页面的显示和清屏不使用特技</translation>
+    </message>
+    <message>
+        <source>Show and clear pages with random effects</source>
+        <translation>页面的显示和清屏使用随机特技</translation>
+    </message>
+    <message>
+        <source>Display effect</source>
+        <translation>显示特技</translation>
+    </message>
+    <message>
+        <source>How a page appears</source>
+        <translation>页面如何出现</translation>
+    </message>
+    <message>
+        <source>Display speed</source>
+        <translation>显示速度</translation>
+    </message>
+    <message>
+        <source>How fast a page appears</source>
+        <translation>页面出现的快慢</translation>
+    </message>
+    <message>
+        <source>Clear effect</source>
+        <translation>清屏特技</translation>
+    </message>
+    <message>
+        <source>How a page disappears</source>
+        <translation>页面如何消失</translation>
+    </message>
+    <message>
+        <source>Clear speed</source>
+        <translation>清屏速度</translation>
+    </message>
+    <message>
+        <source>How fast a page disappears</source>
+        <translation>页面消失的快慢</translation>
+    </message>
+    <message>
+        <source>Hold time</source>
+        <translation>停留时间</translation>
+    </message>
+    <message>
+        <source>How long a page stays</source>
+        <translation>页面停留的时长</translation>
+    </message>
+    <message>
+        <source>Field that the table shows</source>
+        <translation>表格显示的字段</translation>
+    </message>
+    <message>
+        <source>Name under which other systems find the item</source>
+        <translation>其他系统查找该文本项时使用的名称</translation>
     </message>
 </context>
 <context>
     <name>NodePublisher</name>
     <message>
-        <source>The stored document cannot be read: %1.</source>
-        <translation type="unfinished"></translation>
+        <source>The stored document cannot be read: %1</source>
+        <translation>无法读取存储的文档：%1</translation>
     </message>
     <message>
-        <source>The stored document cannot be shown (line %1, column %2): %3. %4.</source>
-        <translation type="unfinished"></translation>
+        <source>The stored document cannot be shown (line %1, column %2): %3 %4</source>
+        <translation>无法显示存储的文档（第 %1 行，第 %2 列）：%3%4</translation>
+    </message>
+</context>
+<context>
+    <name>PluginLoader</name>
+    <message>
+        <source>The plug-in with the text editor was not found.</source>
+        <translation>未找到文本编辑器插件。</translation>
+    </message>
+    <message>
+        <source>Install it beside the program, or name its file with --plugin FILE.</source>
+        <translation>请将其安装到程序所在位置，或用 --plugin FILE 指定其文件。</translation>
+    </message>
+    <message>
+        <source>Install the plug-in of the same version as the workbench.</source>
+        <translation>请安装与工作台版本相同的插件。</translation>
+    </message>
+    <message>
+        <source>The library does not export the text client.</source>
+        <translation>该库没有导出文本客户端。</translation>
+    </message>
+    <message>
+        <source>Name the file of the plug-in with --plugin FILE.</source>
+        <translation>请用 --plugin FILE 指定插件文件。</translation>
+    </message>
+    <message>
+        <source>The plug-in gave no client.</source>
+        <translation>插件没有提供客户端。</translation>
+    </message>
+</context>
+<context>
+    <name>ProgrammeDocument</name>
+    <message>
+        <source>Frame %1</source>
+        <translation>分区 %1</translation>
+    </message>
+    <message>
+        <source>Screen %1</source>
+        <translation>屏幕 %1</translation>
+    </message>
+    <message>
+        <source>Text %1</source>
+        <translation>文本 %1</translation>
+    </message>
+    <message>
+        <source>Change stroke</source>
+        <translation>更改描边</translation>
+    </message>
+    <message>
+        <source>Change hollow text</source>
+        <translation>更改空心字</translation>
+    </message>
+    <message>
+        <source>Change background</source>
+        <translation>更改背景</translation>
+    </message>
+    <message>
+        <source>Change alignment</source>
+        <translation>更改对齐方式</translation>
+    </message>
+    <message>
+        <source>Change spacing</source>
+        <translation>更改间距</translation>
+    </message>
+    <message>
+        <source>Change font</source>
+        <translation>更改字体</translation>
+    </message>
+    <message>
+        <source>Change effect</source>
+        <translation>更改特技</translation>
+    </message>
+    <message>
+        <source>Change hold time</source>
+        <translation>更改停留时间</translation>
+    </message>
+    <message>
+        <source>Change playing time</source>
+        <translation>更改播放时间</translation>
+    </message>
+    <message>
+        <source>Change border</source>
+        <translation>更改边框</translation>
+    </message>
+    <message>
+        <source>Change place</source>
+        <translation>更改位置</translation>
+    </message>
+    <message>
+        <source>Change size</source>
+        <translation>更改大小</translation>
+    </message>
+    <message>
+        <source>Change name</source>
+        <translation>更改名称</translation>
+    </message>
+    <message>
+        <source>Change identifier</source>
+        <translation>更改标识</translation>
+    </message>
+    <message>
+        <source>Change controller</source>
+        <translation>更改控制器</translation>
+    </message>
+    <message>
+        <source>Change data source</source>
+        <translation>更改数据源</translation>
+    </message>
+    <message>
+        <source>Change conditional styles</source>
+        <translation>更改条件样式</translation>
+    </message>
+    <message>
+        <source>Change calculations</source>
+        <translation>更改运算</translation>
+    </message>
+    <message>
+        <source>Change table</source>
+        <translation>更改表格</translation>
+    </message>
+    <message>
+        <source>Change item</source>
+        <translation>更改文本项</translation>
+    </message>
+    <message>
+        <source>Edit text</source>
+        <translation>编辑文本</translation>
+    </message>
+</context>
+<context>
+    <name>ProgrammeFile</name>
+    <message>
+        <source>line %1, column %2</source>
+        <translation>第 %1 行第 %2 列</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>，</translation>
+    </message>
+    <message>
+        <source>the file cannot be read: %1</source>
+        <translation>无法读取文件：%1</translation>
+    </message>
+    <message>
+        <source>check its name and whether you may read it</source>
+        <translation>请检查文件名以及您是否有读取权限</translation>
+    </message>
+    <message>
+        <source>name a *.programme.json file</source>
+        <translation>请指定 *.programme.json 文件</translation>
+    </message>
+    <message>
+        <source>the file is larger than 256 MiB</source>
+        <translation>文件大于 256 MiB</translation>
+    </message>
+    <message>
+        <source>the file cannot be written: %1</source>
+        <translation>无法写入文件：%1</translation>
+    </message>
+    <message>
+        <source>the old file is unchanged; make room, or save elsewhere</source>
+        <translation>原文件未更改；请腾出空间，或保存到其他位置</translation>
+    </message>
+    <message>
+        <source>mend the value named, or restore the file from a copy</source>
+        <translation>请修正所指的值，或用副本恢复文件</translation>
+    </message>
+    <message>
+        <source>the file is not well-formed JSON: %1</source>
+        <translation>文件不是格式正确的 JSON：%1</translation>
+    </message>
+    <message>
+        <source>mend the place named, or restore the file from a copy</source>
+        <translation>请修正所指的位置，或用副本恢复文件</translation>
+    </message>
+    <message>
+        <source>a programme is a JSON object</source>
+        <translation>节目必须是一个 JSON 对象</translation>
+    </message>
+    <message>
+        <source>this is no programme file</source>
+        <translation>这不是节目文件</translation>
+    </message>
+    <message>
+        <source>its &quot;format&quot; must be &quot;%1&quot;</source>
+        <translation>其 &quot;format&quot; 必须为 &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>the file says no version</source>
+        <translation>文件没有注明版本</translation>
+    </message>
+    <message>
+        <source>write &quot;version&quot;: %1</source>
+        <translation>请写入 &quot;version&quot;: %1</translation>
+    </message>
+    <message>
+        <source>version %1 is newer than the %2 that this program reads</source>
+        <translation>版本 %1 高于本程序可读取的版本 %2</translation>
+    </message>
+    <message>
+        <source>open the file with a newer release</source>
+        <translation>请用较新的版本打开该文件</translation>
+    </message>
+    <message>
+        <source>Screen %1</source>
+        <translation>屏幕 %1</translation>
+    </message>
+    <message>
+        <source>Frame %1</source>
+        <translation>分区 %1</translation>
+    </message>
+    <message>
+        <source>there is no such kind of item</source>
+        <translation>没有这种类型的项</translation>
+    </message>
+    <message>
+        <source>write &quot;type&quot;: &quot;%1&quot;</source>
+        <translation>请写入 &quot;type&quot;: &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Text %1</source>
+        <translation>文本 %1</translation>
+    </message>
+    <message>
+        <source>it must be HTML: a text or a list of lines</source>
+        <translation>必须是 HTML：一段文本或由多行组成的列表</translation>
+    </message>
+    <message>
+        <source>the item has a document twice, here and as its RawHtml</source>
+        <translation>该项有两份文档：此处一份，RawHtml 中一份</translation>
+    </message>
+    <message>
+        <source>remove one of them</source>
+        <translation>请删除其中一份</translation>
+    </message>
+    <message>
+        <source>it must be a list</source>
+        <translation>必须是列表</translation>
+    </message>
+    <message>
+        <source>it must be an object</source>
+        <translation>必须是对象</translation>
+    </message>
+    <message>
+        <source>it must be a text in quotes</source>
+        <translation>必须是带引号的文本</translation>
+    </message>
+    <message>
+        <source>it must be a whole number</source>
+        <translation>必须是整数</translation>
+    </message>
+    <message>
+        <source>it must be true or false</source>
+        <translation>必须是 true 或 false</translation>
+    </message>
+    <message>
+        <source>it must be &quot;LED&quot; or &quot;LCD&quot;</source>
+        <translation>必须是 &quot;LED&quot; 或 &quot;LCD&quot;</translation>
+    </message>
+    <message>
+        <source>it must be a whole number of pixels from 1 to %1</source>
+        <translation>必须是 1 到 %1 的整数像素值</translation>
+    </message>
+</context>
+<context>
+    <name>QDockWidget</name>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>Closes the dock widget</source>
+        <translation>关闭此面板</translation>
+    </message>
+    <message>
+        <source>Float</source>
+        <translation>浮动</translation>
+    </message>
+    <message>
+        <source>Undocks and re-attaches the dock widget</source>
+        <translation>使此面板浮动，或重新停靠</translation>
+    </message>
+</context>
+<context>
+    <name>QTabBar</name>
+    <message>
+        <source>Scroll Left</source>
+        <translation>向左滚动</translation>
+    </message>
+    <message>
+        <source>Scroll Right</source>
+        <translation>向右滚动</translation>
     </message>
 </context>
 <context>
     <name>RasterImage</name>
     <message>
         <source>The picture is too large; save it with at most 16384 pixels on a side and 64 million pixels in all.</source>
-        <translation type="unfinished"></translation>
+        <translation>图片过大；请以每边最多 16384 像素、总计最多 6400 万像素保存。</translation>
     </message>
     <message>
         <source>The picture file is larger than 16 MB; save it smaller.</source>
-        <translation type="unfinished"></translation>
+        <translation>图片文件大于 16 MB；请缩小后保存。</translation>
     </message>
     <message>
         <source>The file is not a PNG, JPEG, GIF or BMP picture; convert it to one of these.</source>
-        <translation type="unfinished"></translation>
+        <translation>该文件不是 PNG、JPEG、GIF 或 BMP 图片；请转换为其中一种格式。</translation>
     </message>
     <message>
         <source>The picture is damaged or incomplete; save it again or copy it anew.</source>
-        <translation type="unfinished"></translation>
+        <translation>图片已损坏或不完整；请重新保存或复制。</translation>
     </message>
     <message>
         <source>The picture cannot be read; check that the file exists and may be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>无法读取图片；请检查文件是否存在以及是否有读取权限。</translation>
     </message>
     <message>
         <source>This is not a file with a picture; choose a picture file.</source>
-        <translation type="unfinished"></translation>
+        <translation>这不是图片文件；请选择图片文件。</translation>
     </message>
 </context>
 <context>
     <name>TextEdit</name>
     <message>
         <source>Edit as Plain Text</source>
-        <translation type="unfinished"></translation>
+        <translation>按纯文本编辑</translation>
     </message>
     <message>
         <source>The stored document is replaced by what you see here</source>
-        <translation type="unfinished"></translation>
+        <translation>存储的文档将被此处所见的内容替换</translation>
     </message>
     <message>
         <source>Text</source>
-        <translation type="unfinished"></translation>
+        <translation>文本</translation>
     </message>
     <message>
         <source>Text Color</source>
-        <translation type="unfinished"></translation>
+        <translation>文本颜色</translation>
     </message>
     <message>
         <source>Text Background Color</source>
-        <translation type="unfinished"></translation>
+        <translation>文本背景色</translation>
     </message>
     <message>
         <source>Editor Background Color</source>
-        <translation type="unfinished"></translation>
+        <translation>编辑器背景色</translation>
     </message>
     <message>
         <source>Stroke Color</source>
-        <translation type="unfinished"></translation>
+        <translation>描边颜色</translation>
     </message>
     <message>
         <source>Insert Table</source>
-        <translation type="unfinished"></translation>
+        <translation>插入表格</translation>
     </message>
     <message>
         <source>Only one table can be inserted per editor.</source>
-        <translation type="unfinished"></translation>
+        <translation>每个编辑器只能插入一个表格。</translation>
     </message>
     <message>
         <source>Split Vertically</source>
-        <translation type="unfinished"></translation>
+        <translation>垂直拆分</translation>
     </message>
     <message>
         <source>Split Horizontally</source>
-        <translation type="unfinished"></translation>
+        <translation>水平拆分</translation>
     </message>
     <message>
         <source>Please enter the number of rows: </source>
-        <translation type="unfinished"></translation>
+        <translation>请输入行数：</translation>
     </message>
     <message>
         <source>Please enter the number of columns: </source>
-        <translation type="unfinished"></translation>
+        <translation>请输入列数：</translation>
     </message>
 </context>
 <context>
     <name>lctrlsex::BindingMenus</name>
     <message>
         <source>Filter DataSource</source>
-        <translation type="unfinished"></translation>
+        <translation>筛选数据源</translation>
     </message>
     <message>
         <source>Choose the data source whose fields can be inserted</source>
-        <translation type="unfinished"></translation>
+        <translation>选择可供插入字段的数据源</translation>
     </message>
     <message>
         <source>Insert field</source>
-        <translation type="unfinished"></translation>
+        <translation>插入字段</translation>
     </message>
     <message>
         <source>Insert a field that shows its current value</source>
-        <translation type="unfinished"></translation>
+        <translation>插入显示当前值的字段</translation>
     </message>
     <message>
         <source>Condition styles</source>
-        <translation type="unfinished"></translation>
+        <translation>条件样式</translation>
     </message>
     <message>
         <source>Give the selected text a look that depends on data</source>
-        <translation type="unfinished"></translation>
+        <translation>让所选文本的外观随数据变化</translation>
     </message>
     <message>
         <source>Expression Data Source</source>
-        <translation type="unfinished"></translation>
+        <translation>运算数据源</translation>
     </message>
     <message>
         <source>No data source is enabled</source>
-        <translation type="unfinished"></translation>
+        <translation>没有启用的数据源</translation>
     </message>
     <message>
         <source>Choose a data source first</source>
-        <translation type="unfinished"></translation>
+        <translation>请先选择数据源</translation>
     </message>
     <message>
         <source>The data source has no fields</source>
-        <translation type="unfinished"></translation>
+        <translation>该数据源没有字段</translation>
     </message>
     <message>
         <source>No calculation is defined</source>
-        <translation type="unfinished"></translation>
+        <translation>未定义运算</translation>
     </message>
     <message>
         <source>No conditional style is defined</source>
-        <translation type="unfinished"></translation>
+        <translation>未定义条件样式</translation>
     </message>
 </context>
 <context>
     <name>lctrlsex::EditToolBar</name>
     <message>
         <source>&amp;Color...</source>
-        <translation type="unfinished"></translation>
+        <translation>颜色(&amp;C)...</translation>
     </message>
     <message>
         <source>Text Color</source>
-        <translation type="unfinished"></translation>
+        <translation>文本颜色</translation>
     </message>
     <message>
         <source>Text Background Color</source>
-        <translation type="unfinished"></translation>
+        <translation>文本背景色</translation>
     </message>
     <message>
         <source>Text Background Color...</source>
-        <translation type="unfinished"></translation>
+        <translation>文本背景色...</translation>
     </message>
     <message>
         <source>Clear Background Color</source>
-        <translation type="unfinished"></translation>
+        <translation>清除背景色</translation>
     </message>
     <message>
         <source>Clear Text Background Color</source>
-        <translation type="unfinished"></translation>
+        <translation>清除文本背景色</translation>
     </message>
     <message>
         <source>&amp;Bold</source>
-        <translation type="unfinished"></translation>
+        <translation>粗体(&amp;B)</translation>
     </message>
     <message>
         <source>Text Bold</source>
-        <translation type="unfinished"></translation>
+        <translation>粗体</translation>
     </message>
     <message>
         <source>&amp;Italic</source>
-        <translation type="unfinished"></translation>
+        <translation>斜体(&amp;I)</translation>
     </message>
     <message>
         <source>Text Italic</source>
-        <translation type="unfinished"></translation>
+        <translation>斜体</translation>
     </message>
     <message>
         <source>&amp;Underline</source>
-        <translation type="unfinished"></translation>
+        <translation>下划线(&amp;U)</translation>
     </message>
     <message>
         <source>Text Underline</source>
-        <translation type="unfinished"></translation>
+        <translation>下划线</translation>
     </message>
     <message>
         <source>&amp;Left</source>
-        <translation type="unfinished"></translation>
+        <translation>左对齐(&amp;L)</translation>
     </message>
     <message>
         <source>Align Left</source>
-        <translation type="unfinished"></translation>
+        <translation>左对齐</translation>
     </message>
     <message>
         <source>C&amp;enter</source>
-        <translation type="unfinished"></translation>
+        <translation>居中(&amp;E)</translation>
     </message>
     <message>
         <source>Align Center</source>
-        <translation type="unfinished"></translation>
+        <translation>水平居中</translation>
     </message>
     <message>
         <source>&amp;Right</source>
-        <translation type="unfinished"></translation>
+        <translation>右对齐(&amp;R)</translation>
     </message>
     <message>
         <source>Align Right</source>
-        <translation type="unfinished"></translation>
+        <translation>右对齐</translation>
     </message>
     <message>
         <source>&amp;Justify</source>
-        <translation type="unfinished"></translation>
+        <translation>两端对齐(&amp;J)</translation>
     </message>
     <message>
         <source>Align Justify</source>
-        <translation type="unfinished"></translation>
+        <translation>两端对齐</translation>
     </message>
     <message>
         <source>Content Align Bottom</source>
-        <translation type="unfinished"></translation>
+        <translation>内容靠下</translation>
     </message>
     <message>
         <source>Content Align Center</source>
-        <translation type="unfinished"></translation>
+        <translation>内容垂直居中</translation>
     </message>
     <message>
         <source>Content Align Top</source>
-        <translation type="unfinished"></translation>
+        <translation>内容靠上</translation>
     </message>
     <message>
         <source>Editor Background Color</source>
-        <translation type="unfinished"></translation>
+        <translation>编辑器背景色</translation>
     </message>
     <message>
         <source>Transparent Background</source>
-        <translation type="unfinished"></translation>
+        <translation>透明背景</translation>
     </message>
     <message>
         <source>Hollow</source>
-        <translation type="unfinished"></translation>
+        <translation>空心字</translation>
     </message>
     <message>
         <source>Stroke</source>
-        <translation type="unfinished"></translation>
+        <translation>描边</translation>
     </message>
     <message>
         <source>Stroke Color...</source>
-        <translation type="unfinished"></translation>
+        <translation>描边颜色...</translation>
     </message>
     <message>
         <source>Clear Stroke</source>
-        <translation type="unfinished"></translation>
+        <translation>清除描边</translation>
     </message>
     <message>
         <source>%1 (missing)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1（缺失）</translation>
     </message>
     <message>
         <source>Line Spacing:</source>
-        <translation type="unfinished"></translation>
+        <translation>行间距：</translation>
     </message>
     <message>
         <source>Word Spacing:</source>
-        <translation type="unfinished"></translation>
+        <translation>字间距：</translation>
     </message>
     <message>
         <source>Font</source>
-        <translation type="unfinished"></translation>
+        <translation>字体</translation>
     </message>
     <message>
         <source>Font Size</source>
-        <translation type="unfinished"></translation>
+        <translation>字号</translation>
     </message>
 </context>
 <context>
     <name>lctrlsex::ItemDocument</name>
     <message>
         <source>the image data is not Base64; insert the image again</source>
-        <translation type="unfinished"></translation>
+        <translation>图片数据不是 Base64；请重新插入图片</translation>
     </message>
     <message>
         <source>there is no such built-in image; insert the image again</source>
-        <translation type="unfinished"></translation>
+        <translation>没有这个内置图片；请重新插入图片</translation>
     </message>
     <message>
         <source>files and addresses are not loaded; insert the image into the programme</source>
-        <translation type="unfinished"></translation>
+        <translation>不加载文件和网址；请将图片插入节目</translation>
+    </message>
+</context>
+<context>
+    <name>workbench::Autosave</name>
+    <message>
+        <source>no folder for it can be written</source>
+        <translation>没有可写入的文件夹</translation>
+    </message>
+</context>
+<context>
+    <name>workbench::EditorPane</name>
+    <message>
+        <source>There is no text here yet.</source>
+        <translation>这里还没有文本。</translation>
+    </message>
+    <message>
+        <source>Add Text Item</source>
+        <translation>添加文本项</translation>
+    </message>
+    <message>
+        <source>Effects, times and data of a text item appear here.</source>
+        <translation>文本项的特技、时间和数据显示在这里。</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1：%2</translation>
+    </message>
+    <message>
+        <source>The text editor cannot be used.
+
+%1
+%2</source>
+        <translation>无法使用文本编辑器。
+
+%1
+%2</translation>
+    </message>
+</context>
+<context>
+    <name>workbench::LayoutPanel</name>
+    <message>
+        <source>No page has this size: give both sides, of %1 million pixels at most.</source>
+        <translation>页面不能是这个大小：请给出宽度和高度，总计最多 %1 百万像素。</translation>
+    </message>
+    <message>
+        <source>The frame reaches beyond its screen of %1 × %2 pixels.</source>
+        <translation>分区超出了 %1 × %2 像素的屏幕。</translation>
+    </message>
+    <message>
+        <source>A name is needed; the former one was kept.</source>
+        <translation>名称不能为空；已保留原名称。</translation>
+    </message>
+    <message>
+        <source>Change display kind</source>
+        <translation>更改显示屏类型</translation>
+    </message>
+    <message>
+        <source>Nothing is selected.</source>
+        <translation>未选择任何内容。</translation>
+    </message>
+    <message>
+        <source>Controller</source>
+        <translation>控制器</translation>
+    </message>
+    <message>
+        <source>Screen</source>
+        <translation>屏幕</translation>
+    </message>
+    <message>
+        <source>Frame</source>
+        <translation>分区</translation>
+    </message>
+    <message>
+        <source>Text item</source>
+        <translation>文本项</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>名称</translation>
+    </message>
+    <message>
+        <source>Display</source>
+        <translation>显示屏</translation>
+    </message>
+    <message>
+        <source>Kind of display</source>
+        <translation>显示屏类型</translation>
+    </message>
+    <message>
+        <source>LED</source>
+        <translation>LED</translation>
+    </message>
+    <message>
+        <source>LCD</source>
+        <translation>LCD</translation>
+    </message>
+    <message>
+        <source>Place</source>
+        <translation>位置</translation>
+    </message>
+    <message>
+        <source>X</source>
+        <translation>X</translation>
+    </message>
+    <message>
+        <source>Y</source>
+        <translation>Y</translation>
+    </message>
+    <message>
+        <source>Left edge in pixels</source>
+        <translation>左边距（像素）</translation>
+    </message>
+    <message>
+        <source>Top edge in pixels</source>
+        <translation>上边距（像素）</translation>
+    </message>
+    <message>
+        <source>Size of the frame</source>
+        <translation>使用分区的大小</translation>
+    </message>
+    <message>
+        <source>Size of the screen</source>
+        <translation>使用屏幕的大小</translation>
+    </message>
+    <message>
+        <source>Size of the controller</source>
+        <translation>使用控制器的大小</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>大小</translation>
+    </message>
+    <message>
+        <source>Width in pixels</source>
+        <translation>宽度（像素）</translation>
+    </message>
+    <message>
+        <source>Height in pixels</source>
+        <translation>高度（像素）</translation>
+    </message>
+</context>
+<context>
+    <name>workbench::MainWindow</name>
+    <message>
+        <source>Unsaved changes cannot be kept safe: %1; save the programme to a folder that you may write to.</source>
+        <translation>未保存的更改无法自动备份：%1；请将节目保存到您有写入权限的文件夹。</translation>
+    </message>
+    <message>
+        <source>%1[*] – Workbench</source>
+        <translation>%1[*] – 工作台</translation>
+    </message>
+    <message>
+        <source>%1 × %2 pixels</source>
+        <translation>%1 × %2 像素</translation>
+    </message>
+    <message>
+        <source>Wall: %1</source>
+        <translation>显示墙：%1</translation>
+    </message>
+    <message>
+        <source>Fonts: %1</source>
+        <translation>字体：%1</translation>
+    </message>
+    <message>
+        <source>No fonts to choose from: put font files into %1</source>
+        <translation>没有可选的字体：请将字体文件放入 %1</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>帮助(&amp;H)</translation>
+    </message>
+    <message>
+        <source>&amp;About Workbench</source>
+        <translation>关于工作台(&amp;A)</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>文件(&amp;F)</translation>
+    </message>
+    <message>
+        <source>&amp;New</source>
+        <translation>新建(&amp;N)</translation>
+    </message>
+    <message>
+        <source>&amp;Open…</source>
+        <translation>打开(&amp;O)…</translation>
+    </message>
+    <message>
+        <source>Open &amp;Recent</source>
+        <translation>最近打开(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>保存(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Save &amp;As…</source>
+        <translation>另存为(&amp;A)…</translation>
+    </message>
+    <message>
+        <source>&amp;Export Pages…</source>
+        <translation>导出页面(&amp;E)…</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>退出(&amp;Q)</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>编辑(&amp;E)</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>撤销(&amp;U)</translation>
+    </message>
+    <message>
+        <source>&amp;Undo: %1</source>
+        <translation>撤销(&amp;U)：%1</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>重做(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Redo: %1</source>
+        <translation>重做(&amp;R)：%1</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation>剪切(&amp;T)</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>复制(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>粘贴(&amp;P)</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>视图(&amp;V)</translation>
+    </message>
+    <message>
+        <source>Wall: &amp;Larger Pixels</source>
+        <translation>显示墙：放大像素(&amp;L)</translation>
+    </message>
+    <message>
+        <source>Wall: &amp;Smaller Pixels</source>
+        <translation>显示墙：缩小像素(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Wall: &amp;Fit</source>
+        <translation>显示墙：适合窗口(&amp;F)</translation>
+    </message>
+    <message>
+        <source>Wall: Round L&amp;EDs</source>
+        <translation>显示墙：圆形灯珠(&amp;E)</translation>
+    </message>
+    <message>
+        <source>&amp;Reset Layout</source>
+        <translation>重置布局(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Palette</source>
+        <translation>配色(&amp;P)</translation>
+    </message>
+    <message>
+        <source>&amp;System</source>
+        <translation>跟随系统(&amp;S)</translation>
+    </message>
+    <message>
+        <source>&amp;Light</source>
+        <translation>浅色(&amp;L)</translation>
+    </message>
+    <message>
+        <source>&amp;Dark</source>
+        <translation>深色(&amp;D)</translation>
+    </message>
+    <message>
+        <source>No programme was opened yet</source>
+        <translation>尚未打开过节目</translation>
+    </message>
+    <message>
+        <source>&amp;Clear List</source>
+        <translation>清空列表(&amp;C)</translation>
+    </message>
+    <message>
+        <source>About Workbench</source>
+        <translation>关于工作台</translation>
+    </message>
+    <message>
+        <source>Workbench %1</source>
+        <translation>工作台 %1</translation>
+    </message>
+    <message>
+        <source>Edits programmes for LED and LCD display screens.
+
+Free software under the MIT licence.</source>
+        <translation>编辑 LED 和 LCD 显示屏的节目。
+
+采用 MIT 许可证的自由软件。</translation>
+    </message>
+    <message>
+        <source>Programme</source>
+        <translation>节目</translation>
+    </message>
+    <message>
+        <source>Item Properties</source>
+        <translation>文本项属性</translation>
+    </message>
+    <message>
+        <source>Layout</source>
+        <translation>布局</translation>
+    </message>
+    <message>
+        <source>Wall</source>
+        <translation>显示墙</translation>
+    </message>
+    <message>
+        <source>Save Programme</source>
+        <translation>保存节目</translation>
+    </message>
+    <message>
+        <source>Open Programme</source>
+        <translation>打开节目</translation>
+    </message>
+    <message>
+        <source>Programmes (*.%1)</source>
+        <translation>节目 (*.%1)</translation>
+    </message>
+    <message>
+        <source>All files (*)</source>
+        <translation>所有文件 (*)</translation>
+    </message>
+    <message>
+        <source>Saved %1</source>
+        <translation>已保存 %1</translation>
+    </message>
+    <message>
+        <source>Unsaved Changes</source>
+        <translation>未保存的更改</translation>
+    </message>
+    <message>
+        <source>Save the changes to “%1”?</source>
+        <translation>是否保存对“%1”的更改？</translation>
+    </message>
+    <message>
+        <source>They are lost if you do not.</source>
+        <translation>如果不保存，更改将丢失。</translation>
+    </message>
+    <message>
+        <source>&amp;Don&apos;t Save</source>
+        <translation>不保存(&amp;D)</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>取消(&amp;C)</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1：%2</translation>
+    </message>
+    <message>
+        <source>%1: %2: %3</source>
+        <translation>%1：%2：%3</translation>
+    </message>
+    <message>
+        <source>%1; %2</source>
+        <translation>%1；%2</translation>
+    </message>
+    <message>
+        <source>Export Pages to a Folder</source>
+        <translation>导出页面到文件夹</translation>
+    </message>
+    <message numerus="yes">
+        <source>The export was cancelled; %n page(s) are in %1.</source>
+        <translation>
+            <numerusform>导出已取消；已有 %n 页写入 %1。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n page(s) were written to %1.</source>
+        <translation>
+            <numerusform>已将 %n 页写入 %1。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>A copy saved automatically is damaged: %1; it was kept as %2.</source>
+        <translation>一份自动保存的副本已损坏：%1；已保留为 %2。</translation>
+    </message>
+    <message>
+        <source>A programme that you never saved was kept automatically on %1.</source>
+        <translation>一个从未保存过的节目已于 %1 自动保留。</translation>
+    </message>
+    <message>
+        <source>A copy of %1, saved automatically on %2, was found.</source>
+        <translation>找到 %1 于 %2 自动保存的副本。</translation>
+    </message>
+    <message>
+        <source>%1 The file was changed since.</source>
+        <translation>%1此后该文件又有更改。</translation>
+    </message>
+    <message>
+        <source>&amp;Restore</source>
+        <translation>恢复(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Open Saved &amp;File</source>
+        <translation>打开已保存的文件(&amp;F)</translation>
+    </message>
+    <message>
+        <source>&amp;Keep for Later</source>
+        <translation>留待以后(&amp;K)</translation>
+    </message>
+    <message>
+        <source>This is %1 as it was saved. Is the copy saved automatically still needed?</source>
+        <translation>这是已保存的 %1。自动保存的副本还需要吗？</translation>
+    </message>
+    <message>
+        <source>&amp;Delete the Copy</source>
+        <translation>删除副本(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Lan&amp;guage</source>
+        <translation>语言(&amp;G)</translation>
+    </message>
+</context>
+<context>
+    <name>workbench::NodeDelegate</name>
+    <message>
+        <source>%1 × %2</source>
+        <translation>%1 × %2</translation>
+    </message>
+    <message>
+        <source>no size</source>
+        <translation>无大小</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1，%2</translation>
+    </message>
+</context>
+<context>
+    <name>workbench::NoticeBar</name>
+    <message>
+        <source>Close this notice</source>
+        <translation>关闭此通知</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>错误</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>警告</translation>
+    </message>
+    <message>
+        <source>Notice</source>
+        <translation>通知</translation>
+    </message>
+</context>
+<context>
+    <name>workbench::PageExport</name>
+    <message>
+        <source>Export Pages</source>
+        <translation>导出页面</translation>
+    </message>
+    <message>
+        <source>Writing pages…</source>
+        <translation>正在写入页面…</translation>
+    </message>
+    <message>
+        <source>%1: the folder cannot be made</source>
+        <translation>%1：无法创建文件夹</translation>
+    </message>
+    <message>
+        <source>Writing the pages of %1…</source>
+        <translation>正在写入 %1 的页面…</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1：%2</translation>
+    </message>
+</context>
+<context>
+    <name>workbench::ProgrammeDocument</name>
+    <message>
+        <source>Untitled</source>
+        <translation>未命名</translation>
+    </message>
+    <message>
+        <source>this is no regular file</source>
+        <translation>这不是普通文件</translation>
+    </message>
+    <message>
+        <source>name a *.programme.json file</source>
+        <translation>请指定 *.programme.json 文件</translation>
+    </message>
+    <message>
+        <source>the programme has no file yet</source>
+        <translation>节目尚无文件</translation>
+    </message>
+    <message>
+        <source>save it under a name</source>
+        <translation>请为其命名并保存</translation>
+    </message>
+    <message>
+        <source>Add screen</source>
+        <translation>添加屏幕</translation>
+    </message>
+    <message>
+        <source>Add frame</source>
+        <translation>添加分区</translation>
+    </message>
+    <message>
+        <source>Add text item</source>
+        <translation>添加文本项</translation>
+    </message>
+    <message>
+        <source>Duplicate %1</source>
+        <translation>创建 %1 的副本</translation>
+    </message>
+    <message>
+        <source>Remove %1</source>
+        <translation>删除 %1</translation>
+    </message>
+    <message>
+        <source>Rename to %1</source>
+        <translation>重命名为 %1</translation>
+    </message>
+    <message>
+        <source>Move %1</source>
+        <translation>移动 %1</translation>
+    </message>
+    <message>
+        <source>Place %1</source>
+        <translation>放置 %1</translation>
+    </message>
+    <message>
+        <source>Resize %1</source>
+        <translation>调整 %1 的大小</translation>
+    </message>
+</context>
+<context>
+    <name>workbench::ProgrammePanel</name>
+    <message>
+        <source>Programme</source>
+        <translation>节目</translation>
+    </message>
+    <message>
+        <source>Controller, screens, frames and text items. F2 renames, Delete removes.</source>
+        <translation>控制器、屏幕、分区和文本项。F2 重命名，Delete 删除。</translation>
+    </message>
+    <message>
+        <source>No screen yet. “Add” below makes one.</source>
+        <translation>还没有屏幕。点击下方的“添加”来创建。</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>添加</translation>
+    </message>
+    <message>
+        <source>Add a text item, a frame or a screen</source>
+        <translation>添加文本项、分区或屏幕</translation>
+    </message>
+</context>
+<context>
+    <name>workbench::ProgrammeTreeModel</name>
+    <message>
+        <source>Controller</source>
+        <translation>控制器</translation>
+    </message>
+</context>
+<context>
+    <name>workbench::StructureActions</name>
+    <message>
+        <source>Add &amp;Screen</source>
+        <translation>添加屏幕(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Add a screen to the controller</source>
+        <translation>向控制器添加屏幕</translation>
+    </message>
+    <message>
+        <source>Add &amp;Frame</source>
+        <translation>添加分区(&amp;F)</translation>
+    </message>
+    <message>
+        <source>Add a frame to the screen</source>
+        <translation>向屏幕添加分区</translation>
+    </message>
+    <message>
+        <source>Add a text item to the frame</source>
+        <translation>向分区添加文本项</translation>
+    </message>
+    <message>
+        <source>&amp;Duplicate</source>
+        <translation>创建副本(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Add a copy of what is selected</source>
+        <translation>添加所选内容的副本</translation>
+    </message>
+    <message>
+        <source>Re&amp;name</source>
+        <translation>重命名(&amp;N)</translation>
+    </message>
+    <message>
+        <source>Type another name</source>
+        <translation>输入新名称</translation>
+    </message>
+    <message>
+        <source>Re&amp;move</source>
+        <translation>删除(&amp;M)</translation>
+    </message>
+    <message>
+        <source>Remove what is selected</source>
+        <translation>删除所选内容</translation>
+    </message>
+    <message>
+        <source>Move before the one above</source>
+        <translation>移到上一个之前</translation>
+    </message>
+    <message>
+        <source>Move behind the one below</source>
+        <translation>移到下一个之后</translation>
+    </message>
+    <message>
+        <source>Add Text &amp;Item</source>
+        <translation>添加文本项(&amp;I)</translation>
+    </message>
+    <message>
+        <source>Mo&amp;ve Up</source>
+        <translation>上移(&amp;V)</translation>
+    </message>
+    <message>
+        <source>Move Do&amp;wn</source>
+        <translation>下移(&amp;W)</translation>
+    </message>
+</context>
+<context>
+    <name>workbench::Thumbnails</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1：%2</translation>
+    </message>
+    <message>
+        <source>%1: %2; %3</source>
+        <translation>%1：%2；%3</translation>
+    </message>
+</context>
+<context>
+    <name>workbench::WallPanel</name>
+    <message>
+        <source>Page %1 of %2</source>
+        <translation>第 %1 页，共 %2 页</translation>
+    </message>
+    <message>
+        <source>%1, %2 × %3 pixels</source>
+        <translation>%1，%2 × %3 像素</translation>
+    </message>
+    <message>
+        <source>Fit (1/%1)</source>
+        <translation>适合 (1/%1)</translation>
+    </message>
+    <message>
+        <source>Fit (%1×)</source>
+        <translation>适合 (%1×)</translation>
+    </message>
+    <message>
+        <source>Fit</source>
+        <translation>适合</translation>
+    </message>
+    <message>
+        <source>Previous page (Page Up)</source>
+        <translation>上一页 (Page Up)</translation>
+    </message>
+    <message>
+        <source>Next page (Page Down)</source>
+        <translation>下一页 (Page Down)</translation>
+    </message>
+    <message>
+        <source>Show pixels as round LEDs, from 4× on</source>
+        <translation>将像素显示为圆形灯珠（4× 起）</translation>
+    </message>
+    <message>
+        <source>Smaller pixels</source>
+        <translation>缩小像素</translation>
+    </message>
+    <message>
+        <source>Larger pixels</source>
+        <translation>放大像素</translation>
+    </message>
+    <message>
+        <source>Size of a screen pixel</source>
+        <translation>屏幕像素的大小</translation>
+    </message>
+    <message>
+        <source>%1×</source>
+        <translation>%1×</translation>
+    </message>
+    <message>
+        <source>No screen is selected. Select one in the programme to see it here.</source>
+        <translation>未选择屏幕。在节目中选择一个即可在此查看。</translation>
+    </message>
+</context>
+<context>
+    <name>workbench::WallView</name>
+    <message>
+        <source>%1: %2 × %3 at %4, %5</source>
+        <translation>%1：%2 × %3，位于 %4，%5</translation>
+    </message>
+    <message>
+        <source>Wall</source>
+        <translation>显示墙</translation>
+    </message>
+    <message>
+        <source>The screen of the selected item with all its frames. Plus and minus change the size, Page Up and Page Down turn the page, Return edits the item.</source>
+        <translation>所选文本项所在的屏幕及其全部分区。加号和减号改变大小，Page Up 和 Page Down 翻页，Return 编辑文本项。</translation>
     </message>
 </context>
 </TS>

@@ -6,6 +6,7 @@
 #include "programmekeys.h"
 #include "programmereader.h"
 #include "programmeschema.h"
+#include "programmetexts.h"
 #include "replacefile.h"
 
 #include <QFile>
@@ -145,12 +146,12 @@ QString ProgrammeError::placeText() const
 {
     QStringList parts;
     if (at.line > 0) {
-        parts.append(QStringLiteral("line %1, column %2").arg(at.line).arg(at.column));
+        parts.append(ProgrammeFileTexts::tr("line %1, column %2").arg(at.line).arg(at.column));
     }
     if (!value.isEmpty()) {
         parts.append(value);
     }
-    return parts.join(QStringLiteral(", "));
+    return parts.join(ProgrammeFileTexts::tr(", "));
 }
 
 ReadProgramme readProgramme(const QByteArray &bytes)
@@ -167,20 +168,20 @@ ReadProgramme loadProgramme(const QString &fileName)
                                                        : file.open(QIODevice::ReadOnly);
     if (!isOpen) {
         result.error =
-            fileError(QStringLiteral("the file cannot be read: %1").arg(file.errorString()),
-                      QStringLiteral("check its name and whether you may read it"));
+            fileError(ProgrammeFileTexts::tr("the file cannot be read: %1").arg(file.errorString()),
+                      ProgrammeFileTexts::tr("check its name and whether you may read it"));
         return result;
     }
     const QByteArray bytes = readBounded(&file);
     if (file.error() != QFileDevice::NoError) {
         result.error =
-            fileError(QStringLiteral("the file cannot be read: %1").arg(file.errorString()),
-                      QStringLiteral("name a *.programme.json file"));
+            fileError(ProgrammeFileTexts::tr("the file cannot be read: %1").arg(file.errorString()),
+                      ProgrammeFileTexts::tr("name a *.programme.json file"));
         return result;
     }
     if (bytes.size() > LargestFile) {
-        result.error = fileError(QStringLiteral("the file is larger than 256 MiB"),
-                                 QStringLiteral("name a *.programme.json file"));
+        result.error = fileError(ProgrammeFileTexts::tr("the file is larger than 256 MiB"),
+                                 ProgrammeFileTexts::tr("name a *.programme.json file"));
         return result;
     }
     return readProgramme(bytes);
@@ -214,7 +215,7 @@ ProgrammeError saveProgramme(const LControllerNode &controller, const QString &f
     const QString reason = replaceFile(fileName, writeProgramme(controller));
     return reason.isEmpty()
                ? ProgrammeError()
-               : fileError(
-                     QStringLiteral("the file cannot be written: %1").arg(reason),
-                     QStringLiteral("the old file is unchanged; make room, or save elsewhere"));
+               : fileError(ProgrammeFileTexts::tr("the file cannot be written: %1").arg(reason),
+                           ProgrammeFileTexts::tr(
+                               "the old file is unchanged; make room, or save elsewhere"));
 }

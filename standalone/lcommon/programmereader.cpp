@@ -6,6 +6,7 @@
 #include "ltexteffectnode.h"
 #include "programmekeys.h"
 #include "programmeschema.h"
+#include "programmetexts.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -13,7 +14,10 @@
 
 namespace {
 
-const char *const MendRemedy = "mend the value named, or restore the file from a copy";
+QString mendRemedy()
+{
+    return ProgrammeFileTexts::tr("mend the value named, or restore the file from a copy");
+}
 
 /** Members that are not ours stay with the node and are written back. */
 void keepUnknown(LNode *node, const char *property, const QJsonObject &rest)
@@ -41,14 +45,14 @@ ReadProgramme ProgrammeReader::read()
     const QJsonDocument json = QJsonDocument::fromJson(m_bytes, &parseError);
     if (parseError.error != QJsonParseError::NoError) {
         result.error.at = placeOfOffset(m_bytes, parseError.offset);
-        result.error.reason =
-            QStringLiteral("the file is not well-formed JSON: %1").arg(parseError.errorString());
+        result.error.reason = ProgrammeFileTexts::tr("the file is not well-formed JSON: %1")
+                                  .arg(parseError.errorString());
         result.error.remedy =
-            QStringLiteral("mend the place named, or restore the file from a copy");
+            ProgrammeFileTexts::tr("mend the place named, or restore the file from a copy");
         return result;
     }
     if (!json.isObject()) {
-        fail({}, QStringLiteral("a programme is a JSON object"), QLatin1String(MendRemedy));
+        fail({}, ProgrammeFileTexts::tr("a programme is a JSON object"), mendRemedy());
     } else if (readHead(json.object())) {
         auto controller = std::make_unique<LControllerNode>();
         if (readController(json.object(), controller.get())) {
@@ -63,23 +67,25 @@ bool ProgrammeReader::readHead(const QJsonObject &programme)
 {
     const QJsonValue format = programme.value(ProgrammeKeys::Format);
     if (format.toString() != ProgrammeKeys::FormatName) {
-        return fail(format.isUndefined() ? JsonPath() : JsonPath().key(ProgrammeKeys::Format),
-                    QStringLiteral("this is no programme file"),
-                    QStringLiteral("its \"format\" must be \"%1\"").arg(ProgrammeKeys::FormatName));
+        return fail(
+            format.isUndefined() ? JsonPath() : JsonPath().key(ProgrammeKeys::Format),
+            ProgrammeFileTexts::tr("this is no programme file"),
+            ProgrammeFileTexts::tr("its \"format\" must be \"%1\"").arg(ProgrammeKeys::FormatName));
     }
     const JsonPath path = JsonPath().key(ProgrammeKeys::Version);
     const QJsonValue version = programme.value(ProgrammeKeys::Version);
     const QString fault = ProgrammeSchema::fault(ProgrammeSchema::Number, version);
     if (!fault.isEmpty() || version.toInt() < 1) {
-        return fail(path, QStringLiteral("the file says no version"),
-                    QStringLiteral("write \"version\": %1").arg(ProgrammeFileVersion));
+        return fail(path, ProgrammeFileTexts::tr("the file says no version"),
+                    ProgrammeFileTexts::tr("write \"version\": %1").arg(ProgrammeFileVersion));
     }
     if (version.toDouble() > ProgrammeFileVersion) {
-        return fail(path,
-                    QStringLiteral("version %1 is newer than the %2 that this program reads")
-                        .arg(version.toDouble())
-                        .arg(ProgrammeFileVersion),
-                    QStringLiteral("open the file with a newer release"));
+        return fail(
+            path,
+            ProgrammeFileTexts::tr("version %1 is newer than the %2 that this program reads")
+                .arg(version.toDouble())
+                .arg(ProgrammeFileVersion),
+            ProgrammeFileTexts::tr("open the file with a newer release"));
     }
     return true;
 }
@@ -112,7 +118,7 @@ bool ProgrammeReader::readScreen(const QJsonObject &object, const JsonPath &path
     auto *screen = new LScreenNode;
     parent->AppendChild(screen);
     QJsonObject rest = object;
-    const QString fallback = QStringLiteral("Screen %1").arg(parent->ChildNodes().size());
+    const QString fallback = ProgrammeFileTexts::tr("Screen %1").arg(parent->ChildNodes().size());
     const bool isRead = readName(&rest, path, screen, fallback) &&
                         readAttributes(&rest, path, screen) &&
                         readChildren(ProgrammeKeys::Frames, &rest, path,
@@ -129,7 +135,7 @@ bool ProgrammeReader::readFrame(const QJsonObject &object, const JsonPath &path,
     parent->AppendChild(frame);
     QJsonObject rest = object;
     QJsonObject border;
-    const QString fallback = QStringLiteral("Frame %1").arg(parent->ChildNodes().size());
+    const QString fallback = ProgrammeFileTexts::tr("Frame %1").arg(parent->ChildNodes().size());
     const bool isRead = readName(&rest, path, frame, fallback) &&
                         readMembers(ProgrammeSchema::frameMembers(), &rest, path, frame) &&
                         takeObject(ProgrammeKeys::Border, &rest, path, &border) &&
@@ -150,12 +156,13 @@ bool ProgrammeReader::readItem(const QJsonObject &object, const JsonPath &path, 
     QJsonObject rest = object;
     const QJsonValue type = rest.take(ProgrammeKeys::Type);
     if (!type.isUndefined() && type.toString() != ProgrammeKeys::TextType) {
-        return fail(path.key(ProgrammeKeys::Type), QStringLiteral("there is no such kind of item"),
-                    QStringLiteral("write \"type\": \"%1\"").arg(ProgrammeKeys::TextType));
+        return fail(path.key(ProgrammeKeys::Type),
+                    ProgrammeFileTexts::tr("there is no such kind of item"),
+                    ProgrammeFileTexts::tr("write \"type\": \"%1\"").arg(ProgrammeKeys::TextType));
     }
     auto *item = new LTextEffectNode;
     parent->AppendChild(item);
-    const QString fallback = QStringLiteral("Text %1").arg(parent->ChildNodes().size());
+    const QString fallback = ProgrammeFileTexts::tr("Text %1").arg(parent->ChildNodes().size());
     const bool isRead = readName(&rest, path, item, fallback) &&
                         readAttributes(&rest, path, item) && readDocument(&rest, path, item);
     keepUnknown(item, ProgrammeKeys::Unknown, rest);
@@ -172,7 +179,7 @@ bool ProgrammeReader::readName(QJsonObject *rest, const JsonPath &path, LNode *n
     }
     const QString fault = ProgrammeSchema::fault(ProgrammeSchema::Text, name);
     if (!fault.isEmpty()) {
-        return fail(path.key(ProgrammeKeys::Name), fault, QLatin1String(MendRemedy));
+        return fail(path.key(ProgrammeKeys::Name), fault, mendRemedy());
     }
     node->SetName(name.toString());
     return true;
@@ -188,15 +195,16 @@ bool ProgrammeReader::readDocument(QJsonObject *rest, const JsonPath &path, LTex
     for (const QJsonValue line : document.isArray() ? document.toArray() : QJsonArray{document}) {
         if (!line.isString()) {
             return fail(path.key(ProgrammeKeys::Document),
-                        QStringLiteral("it must be HTML: a text or a list of lines"),
-                        QLatin1String(MendRemedy));
+                        ProgrammeFileTexts::tr("it must be HTML: a text or a list of lines"),
+                        mendRemedy());
         }
         lines.append(line.toString());
     }
     if (!item->GetRawHtmlText().isEmpty()) {
-        return fail(path.key(ProgrammeKeys::Document),
-                    QStringLiteral("the item has a document twice, here and as its RawHtml"),
-                    QStringLiteral("remove one of them"));
+        return fail(
+            path.key(ProgrammeKeys::Document),
+            ProgrammeFileTexts::tr("the item has a document twice, here and as its RawHtml"),
+            ProgrammeFileTexts::tr("remove one of them"));
     }
     const QByteArray html = lines.join(QLatin1Char('\n')).toUtf8();
     item->SetRawHtmlText(QString::fromLatin1(html.toBase64()));
@@ -215,8 +223,7 @@ bool ProgrammeReader::readAttributes(QJsonObject *rest, const JsonPath &path, LN
     for (auto it = attributes.constBegin(); it != attributes.constEnd(); ++it) {
         const QString fault = ProgrammeSchema::attributeFault(it.key(), it.value());
         if (!fault.isEmpty()) {
-            return fail(path.key(ProgrammeKeys::Attributes).key(it.key()), fault,
-                        QLatin1String(MendRemedy));
+            return fail(path.key(ProgrammeKeys::Attributes).key(it.key()), fault, mendRemedy());
         }
         node->SetAttribute(it.key(), it.value().toVariant());
     }
@@ -234,7 +241,7 @@ bool ProgrammeReader::readMembers(const Members &members, QJsonObject *rest, con
         }
         const QString fault = ProgrammeSchema::fault(member.kind, value);
         if (!fault.isEmpty()) {
-            return fail(path.key(member.key), fault, QLatin1String(MendRemedy));
+            return fail(path.key(member.key), fault, mendRemedy());
         }
         node->SetAttribute(member.attribute, value.toVariant());
     }
@@ -247,13 +254,13 @@ bool ProgrammeReader::readChildren(const QString &key, QJsonObject *rest, const 
 {
     const QJsonValue value = rest->take(key);
     if (!value.isUndefined() && !value.isArray()) {
-        return fail(path.key(key), QStringLiteral("it must be a list"), QLatin1String(MendRemedy));
+        return fail(path.key(key), ProgrammeFileTexts::tr("it must be a list"), mendRemedy());
     }
     const QJsonArray children = value.toArray();
     for (int i = 0; i < children.size(); ++i) {
         const JsonPath place = path.key(key).index(i);
         if (!children.at(i).isObject()) {
-            return fail(place, QStringLiteral("it must be an object"), QLatin1String(MendRemedy));
+            return fail(place, ProgrammeFileTexts::tr("it must be an object"), mendRemedy());
         }
         if (!read(children.at(i).toObject(), place)) {
             return false;
@@ -267,8 +274,7 @@ bool ProgrammeReader::takeObject(const QString &key, QJsonObject *rest, const Js
 {
     const QJsonValue value = rest->take(key);
     if (!value.isUndefined() && !value.isObject()) {
-        return fail(path.key(key), QStringLiteral("it must be an object"),
-                    QLatin1String(MendRemedy));
+        return fail(path.key(key), ProgrammeFileTexts::tr("it must be an object"), mendRemedy());
     }
     *object = value.toObject();
     return true;

@@ -4,6 +4,7 @@
 #include "leffectnode.h"
 #include "lscreennode.h"
 #include "ltexteffectnode.h"
+#include "programmetexts.h"
 
 #include <QHash>
 
@@ -76,20 +77,20 @@ QString fault(Kind kind, const QJsonValue &value)
     const bool isWhole = std::floor(number) == number && std::abs(number) <= 4294967295.0;
     switch (kind) {
     case Text:
-        return value.isString() ? QString() : QStringLiteral("it must be a text in quotes");
+        return value.isString() ? QString() : ProgrammeFileTexts::tr("it must be a text in quotes");
     case Number:
-        return isWhole ? QString() : QStringLiteral("it must be a whole number");
+        return isWhole ? QString() : ProgrammeFileTexts::tr("it must be a whole number");
     case Truth:
-        return value.isBool() ? QString() : QStringLiteral("it must be true or false");
+        return value.isBool() ? QString() : ProgrammeFileTexts::tr("it must be true or false");
     case DeviceKind: {
         const QString text = value.toString();
         const bool isKnown = text == QLatin1String("LED") || text == QLatin1String("LCD");
-        return isKnown ? QString() : QStringLiteral("it must be \"LED\" or \"LCD\"");
+        return isKnown ? QString() : ProgrammeFileTexts::tr("it must be \"LED\" or \"LCD\"");
     }
     case Side:
         return isWhole && number >= 1 && number <= LongestSide
                    ? QString()
-                   : QStringLiteral("it must be a whole number of pixels from 1 to %1")
+                   : ProgrammeFileTexts::tr("it must be a whole number of pixels from 1 to %1")
                          .arg(LongestSide);
     }
     return {};

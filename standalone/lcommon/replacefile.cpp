@@ -3,7 +3,6 @@
 #include <QSaveFile>
 
 #include <cerrno>
-#include <cstring>
 #include <unistd.h>
 
 QString replaceFile(const QString &fileName, const QByteArray &bytes)
@@ -21,7 +20,7 @@ QString replaceFile(const QString &fileName, const QByteArray &bytes)
         return reason;
     }
     if (fdatasync(file.handle()) != 0 && errno != EINVAL && errno != ENOSYS) {
-        const QString reason = QString::fromLocal8Bit(std::strerror(errno));
+        const QString reason = qt_error_string(errno);
         file.cancelWriting();
         return reason;
     }

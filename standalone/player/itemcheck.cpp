@@ -98,11 +98,12 @@ private:
                              .arg(c, 4, 16, QLatin1Char('0')));
         }
         const int more = missing.size() - names.size();
-        warn(
-            ItemCheckTexts::tr("characters"),
-            ItemCheckTexts::tr("no installed font shows %1").arg(names.join(QStringLiteral(", "))) +
-                (more > 0 ? ItemCheckTexts::tr(" and %1 more").arg(more) : QString()),
-            ItemCheckTexts::tr("install a font that has them or choose other characters"));
+        const QString list = names.join(QStringLiteral(", "));
+        warn(ItemCheckTexts::tr("characters"),
+             more > 0 ? ItemCheckTexts::tr("no installed font shows %1 and %2 more")
+                            .arg(list, QString::number(more))
+                      : ItemCheckTexts::tr("no installed font shows %1").arg(list),
+             ItemCheckTexts::tr("install a font that has them or choose other characters"));
     }
 
     /** Ink, and not the line's box, decides: room for a descender may be cut away unseen. */

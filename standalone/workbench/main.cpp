@@ -59,11 +59,12 @@ void chooseLanguage(const QString &asked, const QString &remembered)
                            : !remembered.isEmpty() ? remembered
                                                    : QLocale::system().name();
     LTranslation *translation = LTranslation::instance();
-    if (translation->AvailableLanguages().contains(wanted)) {
-        translation->SetLanguage(wanted);
-    } else if (!asked.isEmpty()) {
+    const QStringList available = translation->AvailableLanguages();
+    // Set in any case: English has a catalogue too, of its plural forms.
+    translation->SetLanguage(available.contains(wanted) ? wanted : translation->Language());
+    if (!asked.isEmpty() && !available.contains(asked)) {
         print(stderr, QStringLiteral("workbench: --language %1: there are %2\n")
-                          .arg(asked, translation->AvailableLanguages().join(QLatin1String(", "))));
+                          .arg(asked, available.join(QLatin1String(", "))));
     }
 }
 

@@ -89,7 +89,8 @@ void MainWindow::buildFileMenu()
     menu->addSeparator();
     add(
         QStringLiteral("ExportPages"), [] { return tr("&Export Pages…"); },
-        [this] { exportPages(); }, QKeySequence(Qt::CTRL + Qt::Key_E), "document-export");
+        [this] { exportPages(); }, QKeySequence(Qt::CTRL + Qt::SHIFT + Qt::Key_E),
+        "document-export");
     menu->addSeparator();
     add(
         QStringLiteral("Quit"), [] { return tr("&Quit"); }, [this] { close(); },

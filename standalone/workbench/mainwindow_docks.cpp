@@ -5,11 +5,13 @@
 #include "programmepanel.h"
 #include "wallpanel.h"
 
+#include <QAbstractButton>
 #include <QAction>
 #include <QDockWidget>
 #include <QScreen>
 #include <QScrollArea>
 #include <QShowEvent>
+#include <QTabBar>
 
 namespace workbench {
 
@@ -125,8 +127,31 @@ void MainWindow::resetLayout()
     applyDefaultLayout();
 }
 
+/** What needs a description needs a tool tip too. */
+static void nameButton(QWidget *parent, const char *button, const QString &name,
+                       const QString &description)
+{
+    if (auto *found = parent->findChild<QAbstractButton *>(QLatin1String(button))) {
+        found->setAccessibleName(name);
+        found->setAccessibleDescription(description);
+        found->setToolTip(description.isEmpty() ? QString() : name);
+    }
+}
+
 void MainWindow::retranslateDocks()
 {
+    // The toolkit names these buttons when it makes them or a dock changes, and then no more.
+    for (QDockWidget *dock : {m_programmeDock, m_propertiesDock, m_layoutDock, m_wallDock}) {
+        nameButton(dock, "qt_dockwidget_closebutton", QDockWidget::tr("Close"),
+                   QDockWidget::tr("Closes the dock widget"));
+        nameButton(dock, "qt_dockwidget_floatbutton", QDockWidget::tr("Float"),
+                   QDockWidget::tr("Undocks and re-attaches the dock widget"));
+    }
+    const auto bars = findChildren<QTabBar *>(QString(), Qt::FindDirectChildrenOnly);
+    for (QTabBar *bar : bars) {
+        nameButton(bar, "ScrollLeftButton", QTabBar::tr("Scroll Left"), QString());
+        nameButton(bar, "ScrollRightButton", QTabBar::tr("Scroll Right"), QString());
+    }
     m_programmeDock->setWindowTitle(tr("Programme"));
     m_propertiesDock->setWindowTitle(tr("Item Properties"));
     m_layoutDock->setWindowTitle(tr("Layout"));

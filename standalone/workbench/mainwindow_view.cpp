@@ -89,7 +89,7 @@ void MainWindow::buildLanguageMenu()
 {
     auto *view = findChild<QMenu *>(QStringLiteral("ViewMenu"));
     QMenu *menu = nameMenu(view->addMenu(QString()), QStringLiteral("LanguageMenu"),
-                           [] { return tr("&Language"); });
+                           [] { return tr("Lan&guage"); });
     m_languages = new QActionGroup(this);
     const QStringList codes = LTranslation::instance()->AvailableLanguages();
     for (const QString &code : codes) {

@@ -185,12 +185,12 @@ void StructureActions::retranslate()
     };
     set(m_addScreen, tr("Add &Screen"), tr("Add a screen to the controller"));
     set(m_addFrame, tr("Add &Frame"), tr("Add a frame to the screen"));
-    set(m_addItem, tr("Add &Text Item"), tr("Add a text item to the frame"));
+    set(m_addItem, tr("Add Text &Item"), tr("Add a text item to the frame"));
     set(m_duplicate, tr("&Duplicate"), tr("Add a copy of what is selected"));
     set(m_rename, tr("Re&name"), tr("Type another name"));
     set(m_remove, tr("Re&move"), tr("Remove what is selected"));
-    set(m_moveUp, tr("Move &Up"), tr("Move before the one above"));
-    set(m_moveDown, tr("Move D&own"), tr("Move behind the one below"));
+    set(m_moveUp, tr("Mo&ve Up"), tr("Move before the one above"));
+    set(m_moveDown, tr("Move Do&wn"), tr("Move behind the one below"));
 }
 
 void StructureActions::updateIcons()

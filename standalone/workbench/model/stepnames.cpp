@@ -74,12 +74,13 @@ QString stepNameOf(const QStringList &keys)
         const char *const name = groupOf(key);
         return name && group && qstrcmp(name, group) == 0;
     });
-    return isOne && group ? tr(group) : tr(QT_TRANSLATE_NOOP("ProgrammeDocument", "Change item"));
+    return isOne && group ? tr(group)
+                          : QCoreApplication::translate("ProgrammeDocument", "Change item");
 }
 
 QString textStepName()
 {
-    return tr(QT_TRANSLATE_NOOP("ProgrammeDocument", "Edit text"));
+    return QCoreApplication::translate("ProgrammeDocument", "Edit text");
 }
 
 } // namespace workbench

@@ -1,0 +1,21 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="en">
+<context>
+    <name>workbench::MainWindow</name>
+    <message numerus="yes">
+        <source>The export was cancelled; %n page(s) are in %1.</source>
+        <translation>
+            <numerusform>The export was cancelled; %n page is in %1.</numerusform>
+            <numerusform>The export was cancelled; %n pages are in %1.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n page(s) were written to %1.</source>
+        <translation>
+            <numerusform>%n page was written to %1.</numerusform>
+            <numerusform>%n pages were written to %1.</numerusform>
+        </translation>
+    </message>
+</context>
+</TS>
