@@ -59,10 +59,11 @@ Units joined(Units units)
 
 Units frameUnits(const QTextFrame *frame);
 
-Units cellLines(const QTextTableCell &cell)
+/** What follows in a frame or a cell. */
+Units unitsFrom(QTextFrame::iterator it)
 {
     Units units;
-    for (auto it = cell.begin(); !it.atEnd(); ++it) {
+    for (; !it.atEnd(); ++it) {
         if (it.currentFrame() != nullptr) {
             units += frameUnits(it.currentFrame());
         } else if (it.currentBlock().isValid()) {
@@ -81,7 +82,7 @@ Units tableRows(const QTextTable *table)
         for (int column = 0; column < table->columns(); ++column) {
             const QTextTableCell cell = table->cellAt(row, column);
             if (cell.isValid() && cell.row() == row && cell.column() == column) {
-                unit.lines += cellLines(cell);
+                unit.lines += unitsFrom(cell.begin());
             }
         }
         if (unit.lines.isEmpty()) {
@@ -101,15 +102,7 @@ Units frameUnits(const QTextFrame *frame)
     if (const auto *table = qobject_cast<const QTextTable *>(frame)) {
         return tableRows(table);
     }
-    Units units;
-    for (auto it = frame->begin(); !it.atEnd(); ++it) {
-        if (it.currentFrame() != nullptr) {
-            units += frameUnits(it.currentFrame());
-        } else if (it.currentBlock().isValid()) {
-            appendLines(it.currentBlock(), &units);
-        }
-    }
-    return units;
+    return unitsFrom(frame->begin());
 }
 
 /** Whether a block shows nothing: no text, no image, no ground of its own. */

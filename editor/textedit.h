@@ -98,7 +98,7 @@ public slots:
     void OnSourceChanged();
     void OnFieldChanged();
     /** Stores what the table record says of type, header and pages on the node. */
-    void OnTableInfoChange(LUM_EditInterface::LTableProperties prop);
+    void OnTableInfoChange(const LUM_EditInterface::LTableProperties &prop);
     /** Sets every text anew in the current language. */
     void Translate();
 
@@ -114,7 +114,7 @@ public slots:
     // One value applied to the document, from the tool bar or from outside
 
     /** Merges @p format into the selection, or the word under the cursor, and the typing format. */
-    void mergeFormatOnWordOrSelection(QTextCharFormat format);
+    void mergeFormatOnWordOrSelection(const QTextCharFormat &format);
     void TextFontNameChanged(const QString &family);
     /** @p size in points. */
     void TextFontSizeChanged(uint size);
@@ -179,7 +179,7 @@ public slots:
     void ONDataSourceNameChanged(QAction *action);
     void ONFieldNameChanged(QAction *action);
     void ONConditionStyleChanged(QAction *action);
-    void ONInsertFieldNameChanged(QString field);
+    void ONInsertFieldNameChanged(const QString &field);
     /** Inserts a bound field in the tool bar's format. */
     void ApplyFormatAndInsert(const QString &field);
     void CopyAction();

@@ -34,7 +34,7 @@ bool isWordSpacing(int value)
 
 // Applying values
 
-void TextEdit::mergeFormatOnWordOrSelection(QTextCharFormat format)
+void TextEdit::mergeFormatOnWordOrSelection(const QTextCharFormat &format)
 {
     m_format->mergeOnWordOrSelection(format);
 }

@@ -124,7 +124,7 @@ void TextEdit::TableSplitCell(bool vert)
     }
 }
 
-void TextEdit::OnTableInfoChange(LUM_EditInterface::LTableProperties prop)
+void TextEdit::OnTableInfoChange(const LUM_EditInterface::LTableProperties &prop)
 {
     const int attachment = m_attachment;
     if (m_initialising || m_node.isNull()) {
@@ -259,7 +259,7 @@ void TextEdit::ONFieldNameChanged(QAction *action)
     }
 }
 
-void TextEdit::ONInsertFieldNameChanged(QString field)
+void TextEdit::ONInsertFieldNameChanged(const QString &field)
 {
     ApplyFormatAndInsert(field);
 }

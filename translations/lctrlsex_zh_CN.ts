@@ -998,6 +998,25 @@
     </message>
 </context>
 <context>
+    <name>TextProgressWidget</name>
+    <message>
+        <source>Converting the Text</source>
+        <translation>正在转换文本</translation>
+    </message>
+    <message>
+        <source>Progress of the conversion</source>
+        <translation>转换进度</translation>
+    </message>
+    <message>
+        <source>Exit the program</source>
+        <translation>退出程序</translation>
+    </message>
+    <message>
+        <source>File is the conversion, whether to quit the conversion?</source>
+        <translation>文件正在转换，是否退出转换？</translation>
+    </message>
+</context>
+<context>
     <name>lctrlsex::BindingMenus</name>
     <message>
         <source>Filter DataSource</source>
@@ -1633,7 +1652,7 @@ Free software under the MIT licence.</source>
     </message>
     <message>
         <source>save one of the two under another name</source>
-        <translation>请将其中之一另存为其他名称</translation>
+        <translation>请将其中一个另存为其他名称</translation>
     </message>
 </context>
 <context>

@@ -87,6 +87,8 @@ private:
     void buildViewMenu();
     void buildPaletteMenu();
     void buildLanguageMenu();
+    /** Gives a new menu its object name, and its title in every language. */
+    QMenu *nameMenu(QMenu *menu, const QString &name, std::function<QString()> title);
     QAction *addAction(QMenu *menu, const QString &name, std::function<QString()> text,
                        std::function<void()> run);
     void retranslateActions();
@@ -108,6 +110,8 @@ private:
     /** Asks what is to become of unsaved changes; false when the user wants to stay. */
     bool mayLeave();
     void openFirst(const QString &fileName);
+    /** Remembers the file that was opened or saved, or shows the error; false for an error. */
+    bool noteOutcome(const QString &fileName, const ProgrammeError &error);
     void noteError(const QString &fileName, const ProgrammeError &error);
     void exportPages();
     void tellExport(const PageExport::Result &result, const QString &folder);

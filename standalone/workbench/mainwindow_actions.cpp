@@ -33,15 +33,19 @@ void MainWindow::buildMenus()
     buildFileMenu();
     buildEditMenu();
     buildViewMenu();
-    auto *help = menuBar()->addMenu(QString());
-    help->setObjectName(QStringLiteral("HelpMenu"));
-    m_texts.append({help->menuAction(), [] {
-                        return tr("&Help");
-                    }});
+    auto *help = nameMenu(menuBar()->addMenu(QString()), QStringLiteral("HelpMenu"),
+                          [] { return tr("&Help"); });
     addAction(
         help, QStringLiteral("About"), [] { return tr("&About Workbench"); },
         [this] { showAbout(); })
         ->setMenuRole(QAction::AboutRole);
+}
+
+QMenu *MainWindow::nameMenu(QMenu *menu, const QString &name, std::function<QString()> title)
+{
+    menu->setObjectName(name);
+    m_texts.append({menu->menuAction(), std::move(title)});
+    return menu;
 }
 
 QAction *MainWindow::addAction(QMenu *menu, const QString &name, std::function<QString()> text,
@@ -57,11 +61,8 @@ QAction *MainWindow::addAction(QMenu *menu, const QString &name, std::function<Q
 
 void MainWindow::buildFileMenu()
 {
-    auto *menu = menuBar()->addMenu(QString());
-    menu->setObjectName(QStringLiteral("FileMenu"));
-    m_texts.append({menu->menuAction(), [] {
-                        return tr("&File");
-                    }});
+    auto *menu = nameMenu(menuBar()->addMenu(QString()), QStringLiteral("FileMenu"),
+                          [] { return tr("&File"); });
     const auto add = [this, menu](const QString &name, std::function<QString()> text,
                                   std::function<void()> run, const QKeySequence &keys,
                                   const char *icon) {
@@ -75,11 +76,8 @@ void MainWindow::buildFileMenu()
     add(
         QStringLiteral("Open"), [] { return tr("&Open…"); }, [this] { chooseAndOpen(); },
         QKeySequence::Open, "document-open");
-    m_recentMenu = menu->addMenu(QString());
-    m_recentMenu->setObjectName(QStringLiteral("RecentMenu"));
-    m_texts.append({m_recentMenu->menuAction(), [] {
-                        return tr("Open &Recent");
-                    }});
+    m_recentMenu = nameMenu(menu->addMenu(QString()), QStringLiteral("RecentMenu"),
+                            [] { return tr("Open &Recent"); });
     connect(m_recentMenu, &QMenu::aboutToShow, this, &MainWindow::fillRecentMenu);
     menu->addSeparator();
     add(
@@ -101,11 +99,8 @@ void MainWindow::buildFileMenu()
 
 void MainWindow::buildEditMenu()
 {
-    auto *menu = menuBar()->addMenu(QString());
-    menu->setObjectName(QStringLiteral("EditMenu"));
-    m_texts.append({menu->menuAction(), [] {
-                        return tr("&Edit");
-                    }});
+    auto *menu = nameMenu(menuBar()->addMenu(QString()), QStringLiteral("EditMenu"),
+                          [] { return tr("&Edit"); });
     const auto undoText = [this] {
         const QString step = m_document->history()->undoText();
         return step.isEmpty() ? tr("&Undo") : tr("&Undo: %1").arg(inMenu(step));

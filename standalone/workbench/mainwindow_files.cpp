@@ -26,6 +26,15 @@ QString demoFile()
     return LAppConfig::AppDir() + QStringLiteral("/examples/demo.programme.json");
 }
 
+/** Runs and deletes a dialog: the path that was chosen, empty when none was. */
+QString chosenIn(const QPointer<QFileDialog> &dialog)
+{
+    const bool isAccepted = dialog->exec() == QDialog::Accepted;
+    const QString chosen = dialog && isAccepted ? dialog->selectedFiles().value(0) : QString();
+    delete dialog;
+    return chosen;
+}
+
 } // namespace
 
 void MainWindow::newFile()
@@ -50,10 +59,7 @@ QString MainWindow::askForFile(bool toSave, const QString &start)
         dialog->setDirectory(info.absolutePath());
         dialog->selectFile(info.fileName());
     }
-    const bool isAccepted = dialog->exec() == QDialog::Accepted;
-    const QString chosen = dialog && isAccepted ? dialog->selectedFiles().value(0) : QString();
-    delete dialog;
-    return chosen;
+    return chosenIn(dialog);
 }
 
 void MainWindow::chooseAndOpen()
@@ -75,15 +81,7 @@ void MainWindow::openAsked(const QString &fileName)
 
 bool MainWindow::openFile(const QString &fileName)
 {
-    const ProgrammeError error = m_document->open(fileName);
-    if (error.isSet()) {
-        noteError(fileName, error);
-        return false;
-    }
-    m_notices->dismiss(OpenNotice);
-    m_recent->add(m_document->fileName());
-    m_settings.setLastFile(m_document->fileName());
-    return true;
+    return noteOutcome(fileName, m_document->open(fileName));
 }
 
 bool MainWindow::save()
@@ -106,14 +104,9 @@ bool MainWindow::saveAs()
 
 bool MainWindow::saveUnder(const QString &fileName)
 {
-    const ProgrammeError error = m_document->saveAs(fileName);
-    if (error.isSet()) {
-        noteError(fileName, error);
+    if (!noteOutcome(fileName, m_document->saveAs(fileName))) {
         return false;
     }
-    m_notices->dismiss(OpenNotice);
-    m_recent->add(m_document->fileName());
-    m_settings.setLastFile(m_document->fileName());
     statusBar()->showMessage(tr("Saved %1").arg(QDir::toNativeSeparators(fileName)), StatusTime);
     return true;
 }
@@ -168,6 +161,18 @@ void MainWindow::openFirst(const QString &fileName)
     }
 }
 
+bool MainWindow::noteOutcome(const QString &fileName, const ProgrammeError &error)
+{
+    if (error.isSet()) {
+        noteError(fileName, error);
+        return false;
+    }
+    m_notices->dismiss(OpenNotice);
+    m_recent->add(m_document->fileName());
+    m_settings.setLastFile(m_document->fileName());
+    return true;
+}
+
 void MainWindow::noteError(const QString &fileName, const ProgrammeError &error)
 {
     m_notices->post({OpenNotice,
@@ -194,9 +199,7 @@ void MainWindow::exportPages()
     if (!m_settings.exportFolder().isEmpty()) {
         dialog->setDirectory(m_settings.exportFolder());
     }
-    const bool isAccepted = dialog->exec() == QDialog::Accepted;
-    const QString folder = dialog && isAccepted ? dialog->selectedFiles().value(0) : QString();
-    delete dialog;
+    const QString folder = chosenIn(dialog);
     if (folder.isEmpty()) {
         return;
     }

@@ -31,11 +31,8 @@ QString languageName(const QString &code)
 
 void MainWindow::buildViewMenu()
 {
-    auto *menu = menuBar()->addMenu(QString());
-    menu->setObjectName(QStringLiteral("ViewMenu"));
-    m_texts.append({menu->menuAction(), [] {
-                        return tr("&View");
-                    }});
+    auto *menu = nameMenu(menuBar()->addMenu(QString()), QStringLiteral("ViewMenu"),
+                          [] { return tr("&View"); });
     for (QDockWidget *dock : {m_programmeDock, m_propertiesDock, m_layoutDock, m_wallDock}) {
         dock->toggleViewAction()->setObjectName(QStringLiteral("Show") + dock->objectName());
         menu->addAction(dock->toggleViewAction());
@@ -73,11 +70,8 @@ void MainWindow::buildViewMenu()
 void MainWindow::buildPaletteMenu()
 {
     auto *view = findChild<QMenu *>(QStringLiteral("ViewMenu"));
-    QMenu *menu = view->addMenu(QString());
-    menu->setObjectName(QStringLiteral("PaletteMenu"));
-    m_texts.append({menu->menuAction(), [] {
-                        return tr("&Palette");
-                    }});
+    QMenu *menu = nameMenu(view->addMenu(QString()), QStringLiteral("PaletteMenu"),
+                           [] { return tr("&Palette"); });
     m_palettes = new QActionGroup(this);
     const auto add = [this, menu](PaletteChoice choice, std::function<QString()> text) {
         QAction *action = addAction(menu, QStringLiteral("Palette.") + paletteName(choice),
@@ -94,11 +88,8 @@ void MainWindow::buildPaletteMenu()
 void MainWindow::buildLanguageMenu()
 {
     auto *view = findChild<QMenu *>(QStringLiteral("ViewMenu"));
-    QMenu *menu = view->addMenu(QString());
-    menu->setObjectName(QStringLiteral("LanguageMenu"));
-    m_texts.append({menu->menuAction(), [] {
-                        return tr("Lan&guage");
-                    }});
+    QMenu *menu = nameMenu(view->addMenu(QString()), QStringLiteral("LanguageMenu"),
+                           [] { return tr("Lan&guage"); });
     m_languages = new QActionGroup(this);
     const QStringList codes = LTranslation::instance()->AvailableLanguages();
     for (const QString &code : codes) {

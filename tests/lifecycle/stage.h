@@ -22,7 +22,7 @@ struct Stage
 
     Stage(Programme *own, Programme *foreign);
 
-    /** Binds @p node and looks up the widgets, of another client when the former is gone. */
+    /** Binds @p node and looks up the widgets. */
     void open(LNode *node);
     /** Brings the item to the state in which an operation starts. */
     void prepare(Start start);

@@ -1,0 +1,118 @@
+#include "texteditthread.h"
+
+#include "documentconversion.h"
+
+#include <QTextDocument>
+
+using lctrlsex::ColorConversion;
+
+TextEditThread::TextEditThread(QObject *parent)
+    : QThread(parent)
+{
+    setObjectName(QStringLiteral("TextEditThread"));
+}
+
+TextEditThread::~TextEditThread()
+{
+    ThreadQuit();
+    wait();
+}
+
+void TextEditThread::SetTpye(TextOperatType type)
+{
+    m_type = type;
+}
+
+void TextEditThread::SetText(QString &text)
+{
+    m_text = text;
+}
+
+void TextEditThread::SetDocument(QTextDocument *document)
+{
+    m_document = document;
+    if (document != nullptr) {
+        (void)document->rootFrame(); // made on first use, which must be in the document's thread
+    }
+}
+
+void TextEditThread::setMeasureOnly(bool measureOnly)
+{
+    m_measureOnly = measureOnly;
+}
+
+QString TextEditThread::GetText() const
+{
+    return m_text;
+}
+
+QSize TextEditThread::GetSize() const
+{
+    return m_size;
+}
+
+bool TextEditThread::IsQuit() const
+{
+    return m_quit;
+}
+
+void TextEditThread::ThreadStart()
+{
+    m_quit = false;
+    start();
+}
+
+void TextEditThread::ThreadQuit()
+{
+    m_quit = true;
+    quit();
+}
+
+void TextEditThread::run()
+{
+    switch (m_type) {
+    case ColorFlip:
+        OnColorFlip();
+        break;
+    case BlackWhiteFlip:
+        OnBlackWhiteFlip();
+        break;
+    case DocAntialias:
+        OnDocAntialias();
+        break;
+    }
+}
+
+void TextEditThread::convertText(ColorConversion conversion)
+{
+    const auto report = [this](int percent) {
+        emit emitProcessValue(percent);
+    };
+    const std::optional<QString> result =
+        lctrlsex::convertColors(m_text, conversion, m_quit, report);
+    if (result) {
+        m_text = *result;
+    }
+}
+
+void TextEditThread::OnColorFlip()
+{
+    convertText(ColorConversion::Flip);
+}
+
+void TextEditThread::OnBlackWhiteFlip()
+{
+    convertText(ColorConversion::BlackWhiteSwap);
+}
+
+void TextEditThread::OnDocAntialias()
+{
+    QTextDocument *document = m_document;
+    if (document == nullptr) {
+        return;
+    }
+    if (!m_measureOnly) {
+        lctrlsex::removeAntialiasing(document);
+    }
+    m_size = lctrlsex::oneLineSize(*document);
+}
