@@ -95,12 +95,7 @@ void cursorMoves(benchmark::State &state)
     const Floor bare{"bare", [&pair] {
                          moveBy(&pair.bare, 60);
                      }};
-    floors::besideFloors(
-        state,
-        [&pair] {
-            moveBy(pair.view, 60);
-        },
-        {bare});
+    floors::besideFloors(state, [&pair] { moveBy(pair.view, 60); }, {bare});
 }
 
 void opening(benchmark::State &state)
@@ -110,13 +105,12 @@ void opening(benchmark::State &state)
     const Floor setHtml{"setHtml", [&pair] {
                             pair.bare.setHtml(pair.html);
                         }};
-    floors::besideFloors(
-        state,
-        [&] {
-            pair.editor.Init(&other);
-            pair.editor.Init(&pair.node);
-        },
-        {setHtml});
+    floors::besideFloors(state,
+                         [&] {
+                             pair.editor.Init(&other);
+                             pair.editor.Init(&pair.node);
+                         },
+                         {setHtml});
 }
 
 void layOut(QTextDocument *document)
@@ -133,20 +127,19 @@ void wholeDocument(benchmark::State &state, const std::function<void(Pair *, int
     const Floor relayout{"relayout", [&pair] {
                              layOut(pair.bare.document());
                          }};
-    floors::besideFloors(
-        state,
-        [&] {
-            change(&pair, ++round);
-            benchmark::DoNotOptimize(pair.view->document()->documentLayout()->documentSize());
-        },
-        {relayout});
+    floors::besideFloors(state,
+                         [&] {
+                             change(&pair, ++round);
+                             benchmark::DoNotOptimize(
+                                 pair.view->document()->documentLayout()->documentSize());
+                         },
+                         {relayout});
 }
 
 void letterSpacing(benchmark::State &state)
 {
-    wholeDocument(state, [](Pair *pair, int round) {
-        pair->editor.TextWordSpacingChanged(1 + round % 5);
-    });
+    wholeDocument(
+        state, [](Pair *pair, int round) { pair->editor.TextWordSpacingChanged(1 + round % 5); });
 }
 
 void color(benchmark::State &state)

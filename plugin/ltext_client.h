@@ -103,7 +103,10 @@ private slots:
 
     // Data
 
-    /** Opens nothing: until the settings dialogs exist the buttons of both slots are hidden. */
+    /**
+     * Offers the conditional styles that the node stores. The dialog that edits them does not exist
+     * yet, so its button is hidden; the same holds for the next one and calculations.
+     */
     void OnConditionalStylesClicked();
     void OnSetOperationClicked();
     /** Binds the table to @p bindField, empty for none; the field that it has writes nothing. */

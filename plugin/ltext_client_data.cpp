@@ -81,10 +81,14 @@ void LTextClient::ConnectData()
 }
 
 void LTextClient::OnConditionalStylesClicked()
-{}
+{
+    m_form->wgtTextEditor->LoadConditionStyles();
+}
 
 void LTextClient::OnSetOperationClicked()
-{}
+{
+    m_form->wgtTextEditor->RefreshDataSource();
+}
 
 void LTextClient::HandleConfigChanged()
 {

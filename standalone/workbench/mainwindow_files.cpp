@@ -53,7 +53,9 @@ QString MainWindow::askForFile(bool toSave, const QString &start)
     dialog->setAcceptMode(toSave ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
     dialog->setFileMode(toSave ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
     dialog->setNameFilters({tr("Programmes (*.%1)").arg(FileSuffix), tr("All files (*)")});
-    dialog->setDefaultSuffix(FileSuffix);
+    if (toSave) {
+        dialog->setDefaultSuffix(FileSuffix);
+    }
     const QFileInfo info(start);
     if (!start.isEmpty()) {
         dialog->setDirectory(info.absolutePath());
