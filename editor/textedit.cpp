@@ -1,21 +1,17 @@
 #include "textedit.h"
 
-#include "documentsetup.h"
 #include "edittoolbar.h"
 #include "fieldvalues.h"
 #include "fontnames.h"
 #include "formatcommands.h"
-#include "fragmentmerge.h"
 #include "lappconfig.h"
 #include "lrichviewedit.h"
 #include "ltexteffectnode.h"
 #include "ltranslation.h"
-#include "nodecall.h"
 #include "nodepublisher.h"
 #include "table/bindingmenus.h"
 #include "table/tablecommands.h"
 
-#include <QActionGroup>
 #include <QEvent>
 #include <QFrame>
 #include <QHBoxLayout>
@@ -25,8 +21,6 @@
 #include <QShortcut>
 #include <QToolBar>
 #include <QVBoxLayout>
-
-using lctrlsex::nodeCall;
 
 namespace {
 

@@ -84,10 +84,9 @@ static Translators loadCatalogues(const QString &folder, const QString &language
 {
     Translators loaded;
     auto toolkit = std::make_unique<QTranslator>();
-    const bool hasToolkit =
-        language != s_sourceLanguage &&
-        toolkit->load(QStringLiteral("qtbase_") + language,
-                      QLibraryInfo::location(QLibraryInfo::TranslationsPath));
+    const bool hasToolkit = language != s_sourceLanguage &&
+                            toolkit->load(QStringLiteral("qtbase_") + language,
+                                          QLibraryInfo::location(QLibraryInfo::TranslationsPath));
     for (const QString &file : catalogues(folder)) {
         if (languageOf(file) != language) {
             continue;
