@@ -15,8 +15,8 @@ namespace {
 
 constexpr QSize ItemSize(384, 128);
 
-/** Rich text of about @p characters, every third run in another look. */
-QString richText(int characters)
+/** Rich text of about @p characters whose look changes every @p words * 23 of them. */
+QString richText(int characters, int words)
 {
     QString html = QStringLiteral("<html><body>");
     for (int written = 0, run = 0; written < characters; ++run) {
@@ -25,12 +25,12 @@ QString richText(int characters)
         }
         const QString color = run % 2 == 0 ? QStringLiteral("#ffffff") : QStringLiteral("#ffb000");
         html += QStringLiteral("<span style=\"font-family:'DejaVu Sans'; font-size:%1pt; color:%2; "
-                               "font-weight:%3\">Departures platform %4 </span>")
+                               "font-weight:%3\">%4</span>")
                     .arg(14 + run % 3)
                     .arg(color)
                     .arg(run % 3 == 1 ? 600 : 400)
-                    .arg(run);
-        written += 24;
+                    .arg(QStringLiteral("Departures platform 12 ").repeated(words));
+        written += 23 * words;
     }
     return html + QStringLiteral("</body></html>");
 }
@@ -38,8 +38,8 @@ QString richText(int characters)
 /** An editor with a document, and a bare view of the same. */
 struct Pair
 {
-    explicit Pair(int characters)
-        : html(normalized(richText(characters)))
+    explicit Pair(int characters, int words = 1)
+        : html(normalized(richText(characters, words)))
     {
         node.SetSize(ItemSize);
         node.SetHtmlText(QString());
@@ -89,13 +89,15 @@ void moveBy(QTextEdit *view, int steps)
     }
 }
 
+/** Over 120 characters of a long text, there and back. */
 void cursorMoves(benchmark::State &state)
 {
-    Pair pair(int(state.range(0)));
+    constexpr int Steps = 120;
+    Pair pair(100 * 1000, int(state.range(0)));
     const Floor bare{"bare", [&pair] {
-                         moveBy(&pair.bare, 60);
+                         moveBy(&pair.bare, Steps);
                      }};
-    floors::besideFloors(state, [&pair] { moveBy(pair.view, 60); }, {bare});
+    floors::besideFloors(state, [&pair] { moveBy(pair.view, Steps); }, {bare});
 }
 
 void opening(benchmark::State &state)
@@ -152,7 +154,13 @@ void color(benchmark::State &state)
 
 } // namespace
 
-BENCHMARK(cursorMoves)->Arg(1000)->Arg(100000)->UseManualTime()->Unit(benchmark::kMicrosecond);
+BENCHMARK(cursorMoves)
+    ->ArgName("words")
+    ->Arg(1)
+    ->Arg(4)
+    ->Arg(50)
+    ->UseManualTime()
+    ->Unit(benchmark::kMicrosecond);
 BENCHMARK(opening)->Arg(1000)->Arg(100000)->UseManualTime()->Unit(benchmark::kMillisecond);
 BENCHMARK(letterSpacing)->UseManualTime()->Unit(benchmark::kMillisecond);
 BENCHMARK(color)->UseManualTime()->Unit(benchmark::kMillisecond);
