@@ -111,6 +111,9 @@ void EditToolBar::setEnabled(bool on)
 {
     m_toolBar->setEnabled(on);
     m_secondRow->setEnabled(on);
+    for (QAction *action : qAsConst(m_actions)) {
+        action->setEnabled(on); // a key reaches an action whose row is disabled
+    }
 }
 
 void EditToolBar::addEditActions(const QStringList &fonts)

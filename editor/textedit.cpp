@@ -93,8 +93,10 @@ void TextEdit::setupTextActions()
     auto *key = new QShortcut(justify->shortcut(), this);
     key->setContext(Qt::WidgetWithChildrenShortcut);
     connect(key, &QShortcut::activated, this, [this, justify] {
-        justify->setChecked(true);
-        textAlign(justify);
+        if (!m_view->isReadOnly()) { // a hidden action is never enabled
+            justify->setChecked(true);
+            textAlign(justify);
+        }
     });
 }
 

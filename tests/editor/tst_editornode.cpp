@@ -287,6 +287,9 @@ void TestEditorNode::brokenDocumentsAreKept()
     QCOMPARE(item.view->toPlainText(), QString("what it <said>"));
     item.type("lost?");
     item.call("TextBoldFlagChanged", Q_ARG(bool, true));
+    item.key(Qt::Key_R, Qt::ControlModifier);
+    item.key(Qt::Key_J, Qt::ControlModifier);
+    QCOMPARE(item.node->GetContentHAlign(), int(Qt::AlignLeft));
     item.settle();
     item.client->Finish();
     QCOMPARE(item.node->GetRawHtmlText(), raw);

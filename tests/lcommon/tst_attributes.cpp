@@ -28,11 +28,6 @@ struct Accessor
     QVariant fallback;
 };
 
-const char *s_getters[] = {
-#define NODE_ATTRIBUTE(Class, Type, Getter, Setter, Key, Default) #Getter,
-#include "nodeattributes.def"
-#undef NODE_ATTRIBUTE
-};
 const char *s_setters[] = {
 #define NODE_ATTRIBUTE(Class, Type, Getter, Setter, Key, Default) #Setter,
 #include "nodeattributes.def"
@@ -69,7 +64,6 @@ class TestAttributes : public QObject
 private slots:
     void accessor_data();
     void accessor();
-    void accessorNamesPair();
     void keysAreUnique();
     void everySetterOfTheHeadersIsDefined();
     void fixedKeys();
@@ -132,16 +126,6 @@ void TestAttributes::accessor()
 
     node->RemoveAttribute(key);
     QCOMPARE(accessor.get(node.get()), accessor.fallback);
-}
-
-void TestAttributes::accessorNamesPair()
-{
-    for (size_t i = 0; i < std::size(s_getters); ++i) {
-        QString getter = QString::fromLatin1(s_getters[i]);
-        QString setter = QString::fromLatin1(s_setters[i]);
-        getter.remove(QRegularExpression("^(Get|Is|Text(?=Page))"));
-        QCOMPARE(getter, setter.remove(QRegularExpression("^Set")));
-    }
 }
 
 void TestAttributes::keysAreUnique()
