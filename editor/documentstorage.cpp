@@ -3,7 +3,10 @@
 #include <QCoreApplication>
 #include <QTextCodec>
 
+#include <algorithm>
 #include <array>
+#include <cstring>
+#include <vector>
 
 namespace lctrlsex {
 
@@ -134,23 +137,61 @@ int validUtf8Length(const QByteArray &bytes)
     return begin;
 }
 
+/** Two digits of Base64: twelve bits at a time are faster than six. */
+using DigitPair = std::array<QChar, 2>;
+
+std::vector<DigitPair> digitPairs()
+{
+    const QByteArray digits =
+        QByteArrayLiteral("ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+/");
+    std::vector<DigitPair> pairs;
+    pairs.reserve(4096);
+    for (const char high : digits) {
+        for (const char low : digits) {
+            pairs.push_back({QLatin1Char(high), QLatin1Char(low)});
+        }
+    }
+    return pairs;
+}
+
 } // namespace
+
+QString wellFormed(QString text)
+{
+    for (int i = 0; i < text.size(); ++i) {
+        if (!text.at(i).isSurrogate()) {
+            continue;
+        }
+        if (text.at(i).isHighSurrogate() && i + 1 < text.size() &&
+            text.at(i + 1).isLowSurrogate()) {
+            ++i;
+        } else {
+            text[i] = QChar(QChar::ReplacementCharacter);
+        }
+    }
+    return text;
+}
+
+QString encodeUtf8(const QByteArray &utf8)
+{
+    static const std::vector<DigitPair> pairs = digitPairs();
+    const int whole = utf8.size() / 3;
+    const QByteArray rest = utf8.mid(3 * whole).toBase64();
+    QString coded(4 * whole + rest.size(), Qt::Uninitialized);
+    QChar *to = coded.data();
+    const auto *from = reinterpret_cast<const uchar *>(utf8.constData());
+    for (int i = 0; i < whole; ++i, from += 3, to += 4) {
+        const uint bits = uint(from[0]) << 16U | uint(from[1]) << 8U | from[2];
+        std::memcpy(to, pairs[bits >> 12U].data(), sizeof(DigitPair));
+        std::memcpy(to + 2, pairs[bits & 0xfffU].data(), sizeof(DigitPair));
+    }
+    std::transform(rest.begin(), rest.end(), to, [](char c) { return QLatin1Char(c); });
+    return coded;
+}
 
 QString encodeDocument(const QString &html)
 {
-    QString wellFormed = html;
-    for (int i = 0; i < html.size(); ++i) {
-        if (!html.at(i).isSurrogate()) {
-            continue;
-        }
-        if (html.at(i).isHighSurrogate() && i + 1 < html.size() &&
-            html.at(i + 1).isLowSurrogate()) {
-            ++i;
-        } else {
-            wellFormed[i] = QChar(QChar::ReplacementCharacter);
-        }
-    }
-    return QString::fromLatin1(wellFormed.toUtf8().toBase64());
+    return encodeUtf8(wellFormed(html).toUtf8());
 }
 
 DecodedDocument decodeDocument(const QString &stored)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QByteArray>
 #include <QString>
 
 namespace lctrlsex {
@@ -18,6 +19,11 @@ struct DecodedDocument
  * written as U+FFFD, because UTF-8 has no form for it.
  */
 [[nodiscard]] QString encodeDocument(const QString &html);
+
+/** @p text with U+FFFD in place of lone surrogates. */
+[[nodiscard]] QString wellFormed(QString text);
+/** The second half of encodeDocument(): @p utf8 in Base64. */
+[[nodiscard]] QString encodeUtf8(const QByteArray &utf8);
 
 /**
  * Reads encodeDocument()'s form back. Blanks and line breaks are passed over; any other flaw

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "datasourceconfig.h"
 #include "table/datasourceindex.h"
 #include "table/fieldimages.h"
 
@@ -9,6 +10,23 @@ namespace lctrlsex {
 class FieldValues
 {
 public:
+    /** Makes the next read() take everything for new. */
+    void forget() { m_isRead = false; }
+    /** Takes over what may have changed; false when all of it is as it was. */
+    bool read(const DataSourceConfig &config, const QString &source, const QString &calculation)
+    {
+        if (m_isRead && m_config == config && m_source == source && m_calculation == calculation) {
+            return false;
+        }
+        m_isRead = true;
+        m_config = config;
+        m_source = source;
+        m_calculation = calculation;
+        index = DataSourceIndex(config, source);
+        expressions = expressionsOf(calculation);
+        return true;
+    }
+
     DataSourceIndex index;              ///< What the enabled sources offer.
     QMap<QString, QString> expressions; ///< Calculated values by name.
     QMap<QString, QString> fromClient;  ///< Values that the client handed over, by key.
@@ -25,6 +43,12 @@ public:
         }
         return images.refresh(document, values);
     }
+
+private:
+    bool m_isRead = false;
+    DataSourceConfig m_config;
+    QString m_source;
+    QString m_calculation;
 };
 
 } // namespace lctrlsex

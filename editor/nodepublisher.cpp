@@ -2,16 +2,19 @@
 
 #include "documentstorage.h"
 #include "htmlguard.h"
-#include "htmlunits.h"
 #include "lrichviewedit.h"
 #include "ltexteffectnode.h"
 #include "nodecall.h"
 #include "nodepage.h"
 #include "scenethumbnailcapture.h"
+#include "table/richtable.h"
+#include "table/tablebinding.h"
 
 #include <QCoreApplication>
 #include <QImageReader>
 #include <QTextDocument>
+
+#include <utility>
 
 namespace lctrlsex {
 
@@ -60,6 +63,7 @@ QString asHtml(const QString &plainText)
 
 NodePublisher::NodePublisher(LRichViewEdit *view)
     : m_view(view)
+    , m_export(view->document())
 {}
 
 void NodePublisher::attach(LTextEffectNode *node)
@@ -68,8 +72,10 @@ void NodePublisher::attach(LTextEffectNode *node)
     ++m_attachment;
     m_rawText.clear();
     m_revision = m_view->document()->revision();
+    m_lostKeys.clear();
     m_keepsStored = false;
     m_forceRedraw = false;
+    m_forceStore = false;
     m_isLoaded = false;
 }
 
@@ -142,46 +148,78 @@ NodePublisher::Pushed NodePublisher::pushNow(const QPointer<LTextEffectNode> &no
     if (!isStill(node, attachment) || (isStoredAsIs && !m_forceRedraw)) {
         return Nothing;
     }
-    const bool hasTexts = !isStoredAsIs && storeTexts(node, attachment);
+    const bool hasTexts = (!isStoredAsIs || m_forceStore) && storeTexts(node, attachment);
     if (!isStill(node, attachment) || !(hasTexts || m_forceRedraw)) {
         return Nothing;
     }
     m_forceRedraw = false;
+    m_forceStore = false;
     announce(node, attachment);
     return hasTexts ? Document : Look;
 }
 
-NodePublisher::Texts NodePublisher::textsNow() const
+/** What the node is to hold, the marks of a table apart. */
+NodePublisher::Texts NodePublisher::textsNow()
 {
-    if (!m_view->document()->isModified()) {
+    const bool isLoaded = !m_view->document()->isModified();
+    if (isLoaded && !m_forceStore) {
         return m_loaded; // byte for byte, whoever wrote it
     }
-    const QString html = m_view->toHtml();
-    const QString display = QString::fromUtf8(replacePtWithPx(html).toUtf8());
-    return {encodeDocument(html), m_view->toPlainText(), display, display};
+    const ExportedDocument texts = m_export.texts();
+    if (isLoaded) {
+        return {m_loaded.raw, m_loaded.play, texts.display, texts.display};
+    }
+    return {texts.stored, m_view->toPlainText(), texts.display, texts.display};
 }
 
 /** Writes the texts; false when the node holds the very same document already. */
 bool NodePublisher::storeTexts(const QPointer<LTextEffectNode> &node, int attachment)
 {
-    const Texts texts = textsNow();
+    Texts texts = textsNow();
     m_revision = m_view->document()->revision();
-    m_rawText = texts.raw;
+    m_rawText = texts.raw; // before anything is announced that may come back here
     const bool isSame = texts.raw == nodeCall(node, &LTextEffectNode::GetRawHtmlText);
-    if (isSame || !isStill(node, attachment)) {
+    const auto isStillOurs = [this, &node, attachment] {
+        return isStill(node, attachment);
+    };
+    if ((isSame && !m_forceStore) || !isStillOurs()) {
         return false;
     }
-    node->SetStringContent(texts.content);
-    if (isStill(node, attachment)) {
-        node->SetRawHtmlText(texts.raw);
-    }
-    if (isStill(node, attachment)) {
-        node->SetPlayText(texts.play);
-    }
-    if (isStill(node, attachment)) {
-        node->SetHtmlText(texts.display);
+    bindTable(node, &texts, isStillOurs);
+    using Setter = void (LTextEffectNode::*)(const QString &);
+    const std::pair<Setter, QString> stored[] = {
+        {&LTextEffectNode::SetStringContent, texts.content},
+        {&LTextEffectNode::SetRawHtmlText, texts.raw},
+        {&LTextEffectNode::SetPlayText, texts.play},
+        {&LTextEffectNode::SetHtmlText, texts.display}};
+    for (const auto &[set, text] : stored) {
+        if (isStillOurs()) {
+            (node->*set)(text);
+        }
     }
     return true;
+}
+
+/** Writes the binding into the markup of the table; without a table there is no binding. */
+void NodePublisher::bindTable(const QPointer<LTextEffectNode> &node, Texts *texts,
+                              const std::function<bool()> &isStillOurs)
+{
+    if (firstTable(m_view->document()) == nullptr) {
+        const QStringList keys = bindKeysOf(node);
+        if (!keys.join(QString()).isEmpty()) {
+            m_lostKeys = keys;
+        }
+        resetTableBinding(node, isStillOurs);
+        return;
+    }
+    if (!m_lostKeys.isEmpty() && m_view->document()->isRedoAvailable()) {
+        setBindKeys(node, m_lostKeys, isStillOurs);
+    }
+    m_lostKeys.clear();
+    if (m_view->document()->isModified() || m_forceStore) {
+        texts->display = unifyTableColumnWidths(texts->display, tableMarksOf(node));
+        texts->content = texts->display;
+    }
 }
 
 /** Preview, thumbnail and redraw, in this order. */

@@ -1,10 +1,14 @@
 #pragma once
 
+#include "documentexport.h"
 #include "pageposition.h"
 #include "pagerenderer.h"
 
 #include <QImage>
 #include <QPointer>
+#include <QStringList>
+
+#include <functional>
 
 class LRichViewEdit;
 class LTextEffectNode;
@@ -48,8 +52,10 @@ public:
     void setLoaded(bool on) { m_isLoaded = on; }
     [[nodiscard]] bool isLoaded() const { return m_isLoaded; }
 
-    /** The next push draws and stores again even when the document is as it was. */
+    /** The next push draws again even when the document is as it was. */
     void forceRedraw() { m_forceRedraw = true; }
+    /** The same, and stores the display HTML again, for changes of the table's settings. */
+    void forceStore() { m_forceRedraw = m_forceStore = true; }
 
     /** Takes the document as it is for what the node holds. */
     void takeAsStored();
@@ -91,8 +97,10 @@ private:
     }
     Pushed pushNow(const QPointer<LTextEffectNode> &node, int attachment);
     bool storeTexts(const QPointer<LTextEffectNode> &node, int attachment);
+    void bindTable(const QPointer<LTextEffectNode> &node, Texts *texts,
+                   const std::function<bool()> &isStillOurs);
     void announce(const QPointer<LTextEffectNode> &node, int attachment);
-    [[nodiscard]] Texts textsNow() const;
+    [[nodiscard]] Texts textsNow();
     [[nodiscard]] static QImage pageFile(const QStringList &files, int page);
 
     Q_DISABLE_COPY(NodePublisher)
@@ -101,14 +109,17 @@ private:
     QPointer<LTextEffectNode> m_node;
     int m_attachment = 0; ///< Counts attach(), so that a node is told from itself attached anew.
     int m_pushing = 0;    ///< The attachment whose push is under way; 0: none.
+    DocumentExport m_export;
     PageRenderer m_renderer;
     PagePosition m_position;
-    QString m_rawText; ///< What the node holds as long as nobody else writes it.
-    Texts m_loaded;    ///< What it held when it was loaded: undoing everything brings it back.
+    QString m_rawText;      ///< What the node holds as long as nobody else writes it.
+    Texts m_loaded;         ///< What it held when it was loaded: undoing everything brings it back.
+    QStringList m_lostKeys; ///< Of a table that is gone: undo brings back both.
     int m_revision = -1;
     bool m_isLoaded = false;
     bool m_keepsStored = false;
     bool m_forceRedraw = false;
+    bool m_forceStore = false;
 };
 
 } // namespace lctrlsex

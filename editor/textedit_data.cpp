@@ -145,7 +145,8 @@ void TextEdit::OnTableInfoChange(const LUM_EditInterface::LTableProperties &prop
     }
     if (isAttached(attachment)) {
         m_view->setTableSettings(prop);
-        redraw();
+        m_publisher->forceStore();
+        TextDrawImage();
     }
 }
 
@@ -167,12 +168,14 @@ void TextEdit::RefreshDataSource()
     if (m_node.isNull()) {
         return;
     }
-    const QString source = nodeCall(m_node, &LTextEffectNode::GetDataSource);
-    m_fields->index =
-        lctrlsex::DataSourceIndex(DataSourceConfigManager::instance()->GetConfig(), source);
-    m_fields->expressions =
-        lctrlsex::expressionsOf(nodeCall(m_node, &LTextEffectNode::GetCalculation));
-    if (isAttached(attachment)) {
+    if (m_initialising) {
+        m_fields->forget();
+    }
+    const bool isNew = m_fields->read(DataSourceConfigManager::instance()->GetConfig(),
+                                      nodeCall(m_node, &LTextEffectNode::GetDataSource),
+                                      nodeCall(m_node, &LTextEffectNode::GetCalculation));
+    // A text without a table has this announced at every key.
+    if (isAttached(attachment) && isNew) {
         m_binding->rebuild(m_fields->index, m_fields->expressions);
         UpdateBindKeys();
     }
@@ -236,7 +239,8 @@ void TextEdit::ProcessPaddingHtmlTable()
         emit TableBindFieldChanged();
     }
     if (isAttached(attachment)) {
-        redraw();
+        m_publisher->forceStore();
+        TextDrawImage();
     }
 }
 

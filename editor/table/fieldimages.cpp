@@ -116,6 +116,18 @@ QVector<FieldImages::Found> FieldImages::fieldsOf(const QTextDocument &document)
     return fields;
 }
 
+/** Fields whose images the document still has, and which undo may bring back. */
+QVector<FieldImages::Found> FieldImages::removed(const QTextDocument &document) const
+{
+    QVector<Found> fields;
+    for (auto it = m_drawn.cbegin(); it != m_drawn.cend(); ++it) {
+        if (holds(document, it.key(), *it)) {
+            fields.append({0, 0, it.key(), it->style});
+        }
+    }
+    return fields;
+}
+
 QHash<QString, FieldImages::Drawn> FieldImages::wanted(const QVector<Found> &fields,
                                                        const QMap<QString, QString> &values)
 {
@@ -137,8 +149,13 @@ bool FieldImages::isCurrent(const QTextDocument &document, const QString &name,
         before->style != field.style || before->isDimmed != field.isDimmed) {
         return false;
     }
+    return holds(document, name, *before);
+}
+
+bool FieldImages::holds(const QTextDocument &document, const QString &name, const Drawn &drawn)
+{
     const QVariant image = document.resource(QTextDocument::ImageResource, QUrl(name));
-    return image.value<QImage>().cacheKey() == before->imageKey;
+    return image.value<QImage>().cacheKey() == drawn.imageKey;
 }
 
 /** Draws those of @p fields that are not current, and remembers all of them. */
@@ -186,7 +203,7 @@ bool FieldImages::refresh(QTextDocument *document, const QMap<QString, QString> 
         return false;
     }
     const QVector<Found> fields = fieldsOf(*document);
-    const QSet<QString> changed = draw(document, wanted(fields, values));
+    const QSet<QString> changed = draw(document, wanted(removed(*document) + fields, values));
     markDirty(document, fields, changed);
     return !changed.isEmpty();
 }

@@ -28,8 +28,9 @@ public:
      * whose image was lost, and has just these laid out again. @p values are texts by qualified
      * key or, for a key that is not there, by field name. A field without a value, or with an
      * empty one, shows its own name dimmed. Of fields with one key and several looks the last in
-     * the document wins, since they share an image. Returns whether anything changed. Makes no
-     * undo step and announces no change of text; null changes nothing.
+     * the document wins, since they share an image. A field that was taken
+     * out is kept up to date too, because undo brings it back. Returns whether anything changed.
+     * Makes no undo step and announces no change of text; null changes nothing.
      */
     bool refresh(QTextDocument *document, const QMap<QString, QString> &values);
 
@@ -44,6 +45,8 @@ private:
     struct Found;
 
     static QVector<Found> fieldsOf(const QTextDocument &document);
+    [[nodiscard]] QVector<Found> removed(const QTextDocument &document) const;
+    static bool holds(const QTextDocument &document, const QString &name, const Drawn &drawn);
     static QHash<QString, Drawn> wanted(const QVector<Found> &fields,
                                         const QMap<QString, QString> &values);
     static void markDirty(QTextDocument *document, const QVector<Found> &fields,

@@ -43,8 +43,9 @@ void writeAttributes(const LNode &node, QStringList written, QJsonObject *object
     QJsonObject attributes;
     const QStringList keys = node.AttributeKeys();
     for (const QString &key : keys) {
-        if (!written.contains(key)) {
-            attributes.insert(key, QJsonValue::fromVariant(node.Attribute(key)));
+        const QVariant value = node.Attribute(key);
+        if (!written.contains(key) && !ProgrammeSchema::isBlank(key, value)) {
+            attributes.insert(key, QJsonValue::fromVariant(value));
         }
     }
     if (!attributes.isEmpty()) {

@@ -4,9 +4,11 @@
 #include "leffectnode.h"
 #include "lscreennode.h"
 #include "ltexteffectnode.h"
+#include "programmekeys.h"
 #include "programmetexts.h"
 
 #include <QHash>
+#include <QSet>
 
 #include <cmath>
 #include <type_traits>
@@ -34,6 +36,23 @@ const QHash<QString, Kind> &attributeKinds()
 #undef NODE_ATTRIBUTE
     };
     return kinds;
+}
+
+/** The attributes that are an empty text as long as nobody sets them. */
+const QSet<QString> &blankAttributes()
+{
+    static const QSet<QString> keys = [] {
+        QSet<QString> blank;
+#define NODE_ATTRIBUTE(Class, Type, Getter, Setter, Key, Default)                                  \
+    if (QVariant(static_cast<Type>(Default)) == QVariant(QString())) {                             \
+        blank.insert(QStringLiteral(Key));                                                         \
+    }
+#include "nodeattributes.def"
+#undef NODE_ATTRIBUTE
+        blank.remove(ProgrammeKeys::DisplayHtml);
+        return blank;
+    }();
+    return keys;
 }
 
 } // namespace
@@ -94,6 +113,12 @@ QString fault(Kind kind, const QJsonValue &value)
                          .arg(LongestSide);
     }
     return {};
+}
+
+bool isBlank(const QString &key, const QVariant &value)
+{
+    return value.userType() == QMetaType::QString && value.toString().isEmpty() &&
+           blankAttributes().contains(key);
 }
 
 QString attributeFault(const QString &key, const QJsonValue &value)

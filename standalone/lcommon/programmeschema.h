@@ -3,6 +3,7 @@
 #include <QJsonValue>
 #include <QString>
 #include <QStringList>
+#include <QVariant>
 #include <QVector>
 
 /** What the objects of a programme file may hold, and whether a value is one that they may. */
@@ -32,6 +33,12 @@ struct Member
  * stands for an attribute without a value.
  */
 [[nodiscard]] QString attributeFault(const QString &key, const QJsonValue &value);
+
+/**
+ * Whether attribute @p key is an empty text that reads as if it were not there. The display text
+ * is none: an item without one is new.
+ */
+[[nodiscard]] bool isBlank(const QString &key, const QVariant &value);
 
 /** Longest side of a screen, a frame or an item in pixels. */
 constexpr int LongestSide = 16384;

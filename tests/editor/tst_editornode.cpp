@@ -24,6 +24,7 @@ private slots:
     void theToolBarShowsTheStartOfALoadedText();
     void rebindingKeepsWhatWasTyped();
     void aReturningAnnouncementDoesNotRecur();
+    void theBindingGoesAndComesWithTheTable();
     void brokenDocumentsAreKept_data();
     void brokenDocumentsAreKept();
     void aDeletedNodeIsLetGo();
@@ -129,8 +130,15 @@ void TestEditorNode::anEditReachesTheNode()
 {
     EditorFixture item("<p><span style=\"font-size:10.5pt; color:#ffffff\">old</span></p>");
     QStringList order;
-    connect(item.node.get(), &LData::AttributeChanged, this,
-            [&order](const QString &key) { order.append(key); });
+    item.node->SetTableRowBindKey("left.over");
+    connect(item.node.get(), &LData::AttributeChanged, this, [&order](const QString &key) {
+        if (!key.startsWith("Table")) {
+            order.append(key);
+        }
+    });
+    connect(DataSourceConfigManager::instance(), &DataSourceConfigManager::ConfigChanged,
+            item.node.get(),
+            [&] { order.append("config after " + item.node->GetTableRowBindKey()); });
     connect(item.node.get(), &LTextEffectNode::PreviewCacheChanged, this,
             [&order] { order.append("preview"); });
     connect(item.node.get(), &LEffectNode::ReDrawRequested, this,
@@ -138,8 +146,8 @@ void TestEditorNode::anEditReachesTheNode()
     item.type("n");
     QCOMPARE(order, QStringList()); // not within the key
     item.settle();
-    QCOMPARE(order,
-             QStringList({"StringContent", "RawHtml", "PlayText", "Html", "preview", "redraw"}));
+    QCOMPARE(order, QStringList({"StringContent", "config after ", "StringContent", "RawHtml",
+                                 "PlayText", "Html", "preview", "redraw"}));
     QCOMPARE(item.node->GetPlayText(), QString("nold"));
     QCOMPARE(item.stored(), item.view->toHtml());
     QVERIFY(item.stored().contains("font-size:10.5pt"));
@@ -257,6 +265,32 @@ void TestEditorNode::aReturningAnnouncementDoesNotRecur()
     item.settle();
     QCOMPARE(deepest, 1);
     QCOMPARE(item.node->GetPlayText(), QString("xfirst"));
+}
+
+void TestEditorNode::theBindingGoesAndComesWithTheTable()
+{
+    EditorFixture item("<table border='1' width='200'><tr><td>a</td><td>b</td></tr></table>");
+    item.node->SetTableType(1);
+    item.node->SetTableBindKey("s:list[]");
+    item.node->SetTableRowBindKey("s:list[]");
+    item.type("x");
+    item.settle();
+    QVERIFY(item.node->GetHtmlText().contains("dataSourceKey=\"s:list[]\""));
+    QVERIFY(item.node->GetHtmlText().contains("<td style=\" border:1px solid"));
+    QVERIFY(!item.stored().contains("dataSourceKey"));
+    for (int storm = 0; storm < 1000; ++storm) {
+        emit DataSourceConfigManager::instance()->ConfigChanged();
+    }
+    QCOMPARE(item.node->GetTableRowBindKey(), QString("s:list[]"));
+    item.view->selectAll();
+    item.key(Qt::Key_Delete);
+    item.settle();
+    QCOMPARE(item.node->GetTableRowBindKey(), QString());
+    item.view->undo();
+    item.settle();
+    QCOMPARE(item.node->GetTableRowBindKey(), QString("s:list[]"));
+    QCOMPARE(item.node->GetTableBindKey(), QString("s:list[]"));
+    QVERIFY(item.node->GetHtmlText().contains("dataSourceKey=\"s:list[]\""));
 }
 
 void TestEditorNode::brokenDocumentsAreKept_data()

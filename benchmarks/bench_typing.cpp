@@ -1,0 +1,210 @@
+#include "documentstorage.h"
+#include "floors.h"
+#include "htmlunits.h"
+#include "lrichviewedit.h"
+#include "ltexteffectnode.h"
+#include "textedit.h"
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QTextBlock>
+#include <QTextEdit>
+
+#include <cstring>
+
+using floors::Floor;
+
+namespace {
+
+constexpr QSize ItemSize(256, 64);
+
+/** Paragraphs of about a hundred characters in three looks, as they are stored. */
+QString storedHtml(int characters)
+{
+    QString html = QStringLiteral("<html><body>");
+    for (int written = 0; written < characters; written += 102) {
+        html += QStringLiteral(
+            "<p><span style=\"font-family:'DejaVu Sans'; font-size:14pt; "
+            "color:#ffffff\">Departures "
+            "from platform twelve </span><span style=\"font-family:'DejaVu Sans'; font-size:14pt; "
+            "font-weight:600; color:#ffb000\">delayed by 45 minutes </span><span "
+            "style=\"font-family:'DejaVu Sans'; font-size:12pt; color:#00ff80\">please mind the "
+            "announcements there</span></p>");
+    }
+    QTextDocument document;
+    document.setHtml(html + QStringLiteral("</body></html>"));
+    return document.toHtml();
+}
+
+/** An item that is open in an editor, and a bare view of the same text. */
+struct Item
+{
+    explicit Item(int characters)
+        : html(storedHtml(characters))
+    {
+        node.SetSize(ItemSize);
+        node.SetHtmlText(QString());
+        node.SetRawHtmlText(lctrlsex::encodeDocument(html));
+        editor.resize(900, 500);
+        editor.show();
+        editor.Init(&node);
+        view = editor.findChild<LRichViewEdit *>();
+        bare.resize(view->size());
+        bare.setLineWrapColumnOrWidth(ItemSize.width());
+        bare.setLineWrapMode(QTextEdit::FixedPixelWidth);
+        bare.show();
+        bare.setHtml(html);
+        QCoreApplication::processEvents();
+    }
+
+    QString html;
+    LTextEffectNode node;
+    TextEdit editor;
+    LRichViewEdit *view = nullptr;
+    QTextEdit bare;
+};
+
+/** One character, and all that follows from it, painting included. */
+void typeInto(QTextEdit *view)
+{
+    QKeyEvent event(QEvent::KeyPress, Qt::Key_X, Qt::NoModifier, QStringLiteral("x"));
+    QCoreApplication::sendEvent(view, &event);
+    QCoreApplication::processEvents();
+}
+
+enum Place { Start, BelowPage, End };
+
+void placeCursor(QTextEdit *view, Place place)
+{
+    QTextCursor cursor(view->document());
+    if (place == End) {
+        cursor.movePosition(QTextCursor::End);
+    } else {
+        const QTextBlock block = view->document()->findBlockByNumber(place == Start ? 0 : 7);
+        cursor.setPosition(block.position() + 10);
+    }
+    view->setTextCursor(cursor);
+    QCoreApplication::processEvents();
+}
+
+/** A key with everything that the editor does for it, beside one in a bare view. */
+void key(benchmark::State &state)
+{
+    Item item(int(state.range(0)));
+    const auto place = Place(state.range(1));
+    placeCursor(item.view, place);
+    placeCursor(&item.bare, place);
+    const Floor bare{"bare", [&item] {
+                         typeInto(&item.bare);
+                     }};
+    floors::besideFloors(state, [&item] { typeInto(item.view); }, {bare});
+}
+
+/** What a push hands over, copied. */
+struct HandedOver
+{
+    explicit HandedOver(const LTextEffectNode &node)
+        : texts({node.GetRawHtmlText(), node.GetPlayText(), node.GetHtmlText()})
+    {}
+
+    void copy() const
+    {
+        for (const QString &text : texts) {
+            QString to(text.size(), Qt::Uninitialized);
+            std::memcpy(to.data(), text.constData(), size_t(text.size()) * sizeof(QChar));
+            benchmark::DoNotOptimize(to.constData());
+        }
+    }
+
+    QStringList texts;
+};
+
+/** The push alone, after a change of one character. */
+void push(benchmark::State &state)
+{
+    Item item(int(state.range(0)));
+    const auto place = Place(state.range(1));
+    placeCursor(item.view, place);
+    typeInto(item.view);
+    const HandedOver texts(item.node);
+    std::vector<double> times;
+    std::vector<double> copies;
+    for (auto round : state) {
+        static_cast<void>(round);
+        item.view->insertPlainText(QStringLiteral("x"));
+        QElapsedTimer timer;
+        timer.start();
+        item.editor.TextDrawImage();
+        times.push_back(double(timer.nsecsElapsed()) * 1e-9);
+        state.SetIterationTime(times.back());
+        QCoreApplication::processEvents();
+        copies.push_back(floors::secondsOf([&texts] { texts.copy(); }));
+    }
+    state.counters["median_us"] = floors::median(times) * 1e6;
+    state.counters["memcpy_us"] = floors::median(copies) * 1e6;
+    state.counters["x_memcpy"] = floors::median(times) / floors::median(copies);
+}
+
+/** What a push is made of, for the same document without any care. */
+void pieces(benchmark::State &state)
+{
+    Item item(int(state.range(0)));
+    QTextDocument *document = item.view->document();
+    const QString html = document->toHtml();
+    const std::vector<Floor> parts = {{"toHtml",
+                                       [document] {
+                                           benchmark::DoNotOptimize(document->toHtml());
+                                       }},
+                                      {"encode",
+                                       [&html] {
+                                           benchmark::DoNotOptimize(lctrlsex::encodeDocument(html));
+                                       }},
+                                      {"units",
+                                       [&html] {
+                                           benchmark::DoNotOptimize(
+                                               lctrlsex::replacePtWithPx(html));
+                                       }},
+                                      {"plain",
+                                       [document] {
+                                           benchmark::DoNotOptimize(document->toPlainText());
+                                       }},
+                                      {"unchanged", [&item] {
+                                           item.editor.TextDrawImage();
+                                       }}};
+    floors::besideFloors(
+        state, [&item] { benchmark::DoNotOptimize(item.editor.getIndexImage(0)); }, parts);
+}
+
+} // namespace
+
+static void sizesAndPlaces(benchmark::internal::Benchmark *benchmark)
+{
+    for (const int size : {1000, 100 * 1000}) {
+        for (const Place place : {Start, BelowPage, End}) {
+            benchmark->Args({size, place});
+        }
+    }
+}
+
+BENCHMARK(key)
+    ->ArgNames({"characters", "place"})
+    ->Apply(sizesAndPlaces)
+    ->UseManualTime()
+    ->Unit(benchmark::kMicrosecond);
+BENCHMARK(push)
+    ->ArgNames({"characters", "place"})
+    ->Apply(sizesAndPlaces)
+    ->Args({1000 * 1000, End})
+    ->UseManualTime()
+    ->Unit(benchmark::kMicrosecond);
+BENCHMARK(pieces)
+    ->ArgName("characters")
+    ->Arg(1000)
+    ->Arg(100 * 1000)
+    ->UseManualTime()
+    ->Unit(benchmark::kMicrosecond);
+
+int main(int argc, char **argv)
+{
+    return floors::runBenchmarks<QApplication>(argc, argv);
+}
