@@ -63,17 +63,6 @@ struct Change
     QTextCharFormat format;
 };
 
-bool inPixels(QTextCharFormat *format)
-{
-    if (!format->hasProperty(QTextFormat::FontPointSize)) {
-        return false;
-    }
-    const int pixels = qMax(1, qRound(format->fontPointSize()));
-    format->clearProperty(QTextFormat::FontPointSize);
-    format->setProperty(QTextFormat::FontPixelSize, pixels);
-    return true;
-}
-
 } // namespace
 
 bool TextSettings::operator==(const TextSettings &other) const
@@ -122,6 +111,17 @@ void preparePage(QTextDocument *document, const TextSettings &settings)
     prepareBoth(document);
 }
 
+bool pointsToPixels(QTextCharFormat *format)
+{
+    if (!format->hasProperty(QTextFormat::FontPointSize)) {
+        return false;
+    }
+    const int pixels = qMax(1, qRound(format->fontPointSize()));
+    format->clearProperty(QTextFormat::FontPointSize);
+    format->setProperty(QTextFormat::FontPixelSize, pixels);
+    return true;
+}
+
 void pointsToPixels(QTextDocument *document)
 {
     QVector<Change> changes;
@@ -129,14 +129,14 @@ void pointsToPixels(QTextDocument *document)
     cursor.beginEditBlock();
     for (QTextBlock block = document->begin(); block.isValid(); block = block.next()) {
         QTextCharFormat empty = block.charFormat();
-        if (inPixels(&empty)) {
+        if (pointsToPixels(&empty)) {
             cursor.setPosition(block.position());
             cursor.setBlockCharFormat(empty); // the height of an empty line
         }
         changes.clear();
         for (auto it = block.begin(); !it.atEnd(); ++it) {
             QTextCharFormat format = it.fragment().charFormat();
-            if (inPixels(&format)) {
+            if (pointsToPixels(&format)) {
                 changes.append({it.fragment().position(), it.fragment().length(), format});
             }
         }

@@ -2,6 +2,7 @@
 
 #include <QString>
 
+class QTextCharFormat;
 class QTextDocument;
 
 namespace lctrlsex {
@@ -53,5 +54,7 @@ void preparePage(QTextDocument *document, const TextSettings &settings);
  * called after the content of a page's document is set.
  */
 void pointsToPixels(QTextDocument *document);
+/** The same for one format; false when its size is not in points. */
+bool pointsToPixels(QTextCharFormat *format);
 
 } // namespace lctrlsex

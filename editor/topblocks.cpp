@@ -51,11 +51,19 @@ void TopBlocks::invalidate()
     m_isCurrent = false;
 }
 
-void TopBlocks::onContentsChange(int position)
+void TopBlocks::onContentsChange(int position, int removed, int added)
 {
-    if (position <= m_end) {
-        m_isCurrent = false;
+    if (position > m_end) {
+        m_blockCount = m_source->blockCount();
+        return;
     }
+    const QTextBlock block = m_source->findBlock(position);
+    const bool isWithin = m_blockCount == m_source->blockCount() &&
+                          block == m_source->findBlock(position + added) &&
+                          (m_editedBlock == -1 || m_editedBlock == block.blockNumber());
+    m_isCurrent = m_isCurrent && isWithin;
+    m_editedBlock = block.blockNumber();
+    m_end += added - removed;
 }
 
 void TopBlocks::attach(const QTextDocument *source)
@@ -66,7 +74,9 @@ void TopBlocks::attach(const QTextDocument *source)
     m_source = source;
     m_isCurrent = false;
     connect(source, &QTextDocument::contentsChange, this,
-            [this](int position, int, int) { onContentsChange(position); });
+            [this](int position, int removed, int added) {
+                onContentsChange(position, removed, added);
+            });
 }
 
 QTextDocument *TopBlocks::documentFor(const QTextDocument *source, const QSize &size)
@@ -74,9 +84,10 @@ QTextDocument *TopBlocks::documentFor(const QTextDocument *source, const QSize &
     if (source != m_source) {
         attach(source);
     }
-    if (!m_isCurrent || size != m_size) {
+    if (!m_isCurrent || size != m_size || (m_editedBlock != -1 && !takeEditedBlock())) {
         rebuild(size);
     }
+    m_editedBlock = -1;
     return m_copy;
 }
 
@@ -113,6 +124,35 @@ int TopBlocks::endOfTop(int characters, int blocks) const
     return end;
 }
 
+/** Writes the edited block into the copy; false when that would not do. */
+bool TopBlocks::takeEditedBlock()
+{
+    const QTextBlock block = m_source->findBlockByNumber(m_editedBlock);
+    const QTextBlock copy = m_copy->findBlockByNumber(m_editedBlock);
+    if (!block.isValid() || !copy.isValid() || block.blockFormat().objectIndex() != -1) {
+        return false;
+    }
+    QTextCursor cursor(copy);
+    cursor.beginEditBlock();
+    cursor.movePosition(QTextCursor::EndOfBlock, QTextCursor::KeepAnchor);
+    cursor.removeSelectedText();
+    QTextCharFormat empty = block.charFormat();
+    pointsToPixels(&empty);
+    cursor.setBlockFormat(block.blockFormat());
+    cursor.setBlockCharFormat(empty);
+    bool isWhole = true;
+    for (auto it = block.begin(); !it.atEnd(); ++it) {
+        QTextCharFormat format = it.fragment().charFormat();
+        isWhole = isWhole && format.objectIndex() == -1;
+        pointsToPixels(&format);
+        cursor.insertText(it.fragment().text(), format);
+    }
+    cursor.endEditBlock();
+    // A shorter paragraph may let in text that was not copied.
+    const bool isAllOfSource = m_end >= m_source->characterCount() - 1;
+    return isWhole && (isAllOfSource || m_copy->size().height() > m_size.height());
+}
+
 void TopBlocks::rebuild(const QSize &size)
 {
     const int last = m_source->characterCount() - 1;
@@ -142,6 +182,7 @@ void TopBlocks::rebuild(const QSize &size)
         blocks *= 2;
     }
     m_size = size;
+    m_blockCount = m_source->blockCount();
     m_isCurrent = true;
 }
 

@@ -13,7 +13,8 @@ namespace lctrlsex {
  *
  * A page is drawn from here and never from the document that a view shows, because the view lays
  * that one out again at its own width behind the painter's back. The copy costs what the page
- * costs, whatever the length of the document, and is kept until an edit reaches it.
+ * costs, whatever the length of the document, and is kept until an edit reaches it; one within a
+ * paragraph is followed there.
  */
 class TopBlocks : public QObject
 {
@@ -32,16 +33,19 @@ public:
     void invalidate();
 
 private:
-    void onContentsChange(int position);
+    void onContentsChange(int position, int removed, int added);
     void attach(const QTextDocument *source);
     void copySettings(QTextDocument *target) const;
     void rebuild(const QSize &size);
+    [[nodiscard]] bool takeEditedBlock();
     [[nodiscard]] int endOfTop(int characters, int blocks) const;
 
     QPointer<const QTextDocument> m_source;
     QTextDocument *m_copy = nullptr;
     QSize m_size;
-    int m_end = 0; ///< Position in the source behind the last copied character.
+    int m_end = 0;          ///< Position in the source behind the last copied character.
+    int m_blockCount = 0;   ///< Of the source.
+    int m_editedBlock = -1; ///< The only one in which the copy differs; -1 for none.
     bool m_isCurrent = false;
 };
 

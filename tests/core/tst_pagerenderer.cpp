@@ -7,6 +7,7 @@
 #include <QAbstractTextDocumentLayout>
 #include <QGuiApplication>
 #include <QPalette>
+#include <QRandomGenerator>
 #include <QTextBlock>
 #include <QTextCursor>
 #include <QTextLayout>
@@ -73,6 +74,8 @@ private slots:
     void topEqualsWholeDocument_data();
     void topEqualsWholeDocument();
     void editsBelowThePageCostNothing();
+    void editsAreFollowed_data();
+    void editsAreFollowed();
     void viewsOwnLayoutIsLeftAlone();
     void impossibleSizesGiveNoPage_data();
     void impossibleSizesGiveNoPage();
@@ -215,6 +218,68 @@ void TestPageRenderer::editsBelowThePageCostNothing()
     cursor.setPosition(2);
     cursor.insertText(QStringLiteral("inside"));
     QVERIFY(top.documentFor(&document, size)->toPlainText().startsWith(QStringLiteral("Liinside")));
+}
+
+void TestPageRenderer::editsAreFollowed_data()
+{
+    QTest::addColumn<QString>("html");
+
+    const QString line = QStringLiteral("<p align='right'>first <b>line</b> of text</p><p></p>");
+    QTest::newRow("short") << line;
+    QTest::newRow("long") << line.repeated(40);
+    QTest::newRow("table") << line +
+                                  "<table border='1' width='150'><tr><td>a</td><td>b</td></tr>"
+                                  "</table>" +
+                                  line.repeated(9);
+    QTest::newRow("list") << "<ul><li>one</li><li>two</li></ul>" + line.repeated(9);
+}
+
+/** A renderer that lives as long as the text shows what one made for the moment would. */
+void TestPageRenderer::editsAreFollowed()
+{
+    QFETCH(QString, html);
+    ItemDocument document;
+    loadForEditing(&document, html);
+    document.setUndoRedoEnabled(true);
+    PageStyle style;
+    style.size = QSize(200, 90);
+    style.isTransparent = true;
+    PageRenderer living;
+    QRandomGenerator random(7);
+    QTextCursor cursor(&document);
+    for (int step = 0; step < 150; ++step) {
+        const int end = document.characterCount();
+        cursor.setPosition(random.bounded(random.bounded(2) == 0 ? qMin(end, 60) : end));
+        switch (random.bounded(8)) {
+        case 0:
+            cursor.deleteChar();
+            break;
+        case 1:
+            cursor.insertBlock();
+            break;
+        case 2:
+            cursor.deletePreviousChar();
+            break;
+        case 3: {
+            cursor.movePosition(QTextCursor::NextCharacter, QTextCursor::KeepAnchor, 3);
+            QTextCharFormat format;
+            format.setFontPointSize(random.bounded(8, 30));
+            cursor.mergeCharFormat(format);
+            break;
+        }
+        case 4:
+            cursor.setBlockFormat(QTextBlockFormat());
+            break;
+        case 5:
+            document.undo();
+            break;
+        default:
+            cursor.insertText(QStringLiteral("typed "));
+        }
+        if (random.bounded(4) != 0) {
+            QCOMPARE(living.topPage(&document, style), PageRenderer().topPage(&document, style));
+        }
+    }
 }
 
 void TestPageRenderer::viewsOwnLayoutIsLeftAlone()
