@@ -6,6 +6,7 @@
 #include "textedit.h"
 
 #include <QApplication>
+#include <QFile>
 #include <QKeyEvent>
 #include <QTextBlock>
 #include <QTextEdit>
@@ -145,6 +146,48 @@ void push(benchmark::State &state)
     state.counters["x_memcpy"] = floors::median(times) / floors::median(copies);
 }
 
+/** Memory of this process that is in use, in kB. */
+double residentKilobytes()
+{
+    QFile file(QStringLiteral("/proc/self/statm"));
+    if (!file.open(QIODevice::ReadOnly)) {
+        return 0;
+    }
+    return file.readAll().split(' ').value(1).toDouble() * 4;
+}
+
+/** What memory grows by over many keys, half of which take back what the others typed. */
+double growthOver(int keys, QTextEdit *view)
+{
+    const auto typeRounds = [view](int rounds) {
+        for (int round = 0; round < rounds; ++round) {
+            for (int i = 0; i < 25; ++i) {
+                typeInto(view);
+            }
+            for (int i = 0; i < 25; ++i) {
+                QKeyEvent event(QEvent::KeyPress, Qt::Key_Backspace, Qt::NoModifier);
+                QCoreApplication::sendEvent(view, &event);
+                QCoreApplication::processEvents();
+            }
+        }
+    };
+    typeRounds(qMax(1, keys / 500)); // what is made once
+    const double before = residentKilobytes();
+    typeRounds(keys / 50);
+    return residentKilobytes() - before;
+}
+
+/** The bare view keeps what it needs for undo, so it grows too. */
+void memory(benchmark::State &state)
+{
+    Item item(1000);
+    for (auto round : state) {
+        static_cast<void>(round);
+        state.counters["grown_kB"] = growthOver(int(state.range(0)), item.view);
+        state.counters["bare_grown_kB"] = growthOver(int(state.range(0)), &item.bare);
+    }
+}
+
 /** What a push is made of, for the same document without any care. */
 void pieces(benchmark::State &state)
 {
@@ -203,6 +246,11 @@ BENCHMARK(pieces)
     ->Arg(100 * 1000)
     ->UseManualTime()
     ->Unit(benchmark::kMicrosecond);
+BENCHMARK(memory)
+    ->ArgName("keys")
+    ->Arg(qEnvironmentVariableIsSet("LCTRLSEX_THOROUGH") ? 100 * 1000 : 2000)
+    ->Iterations(1)
+    ->Unit(benchmark::kSecond);
 
 int main(int argc, char **argv)
 {

@@ -136,13 +136,12 @@ HtmlTokenReader::Word HtmlTokenReader::readWord()
     }
     const QChar quote = m_html[m_pos];
     const int begin = ++m_pos;
-    while (m_pos < m_html.size()) {
-        // Inside single quotes a backslash protects the quote; inside double quotes it does not.
-        if (m_html[m_pos] == quote && (twice || m_html[m_pos - 1] != QLatin1Char('\\'))) {
-            break;
-        }
-        ++m_pos;
+    qsizetype end = m_html.indexOf(quote, m_pos);
+    // Inside single quotes a backslash protects the quote; inside double quotes it does not.
+    while (!twice && end > 0 && m_html[end - 1] == QLatin1Char('\\')) {
+        end = m_html.indexOf(quote, end + 1);
     }
+    m_pos = int(end < 0 ? m_html.size() : end);
     const QStringView text = m_html.mid(begin, m_pos - begin);
     m_pos = std::min(m_pos + 1, int(m_html.size()));
     return {text, twice ? HtmlAttribute::Quote::Double : HtmlAttribute::Quote::Single};

@@ -3,7 +3,7 @@
 #include "htmltokens.h"
 #include "tablewidths.h"
 
-#include <QPair>
+#include <QHash>
 #include <QStringList>
 #include <QVector>
 
@@ -14,20 +14,12 @@ namespace lctrlsex {
 
 namespace {
 
-using NewAttributes = QVector<QPair<QString, QString>>;
-
-/** A tag and what it is to become. */
-struct Rewrite
+/** A stretch of the text and what takes its place; an empty one is a place for more. */
+struct Edit
 {
-    HtmlToken tag;
-    NewAttributes attributes;
-};
-
-/** A table on the way through the text; cells are indices of rewrites. */
-struct OpenTable
-{
-    size_t tag;
-    std::vector<std::vector<size_t>> rows;
+    int begin;
+    int end;
+    QString text;
 };
 
 bool isNamed(const HtmlToken &token, QLatin1String name)
@@ -35,14 +27,30 @@ bool isNamed(const HtmlToken &token, QLatin1String name)
     return token.name.compare(name, Qt::CaseInsensitive) == 0;
 }
 
+HtmlAttribute attributeOf(const HtmlToken &tag, QLatin1String key)
+{
+    const auto found = std::find_if(tag.attributes.begin(), tag.attributes.end(),
+                                    [key](const HtmlAttribute &attribute) {
+                                        return attribute.key.compare(key, Qt::CaseInsensitive) == 0;
+                                    });
+    return found == tag.attributes.end() ? HtmlAttribute() : *found;
+}
+
+bool isThere(const HtmlAttribute &attribute)
+{
+    return attribute.end > attribute.begin;
+}
+
 QString valueOf(const HtmlToken &tag, QLatin1String key, const QString &fallback = QString())
 {
-    for (const HtmlAttribute &attribute : tag.attributes) {
-        if (attribute.key.compare(key, Qt::CaseInsensitive) == 0) {
-            return attributeText(attribute);
-        }
-    }
-    return fallback;
+    const HtmlAttribute attribute = attributeOf(tag, key);
+    return isThere(attribute) ? attributeText(attribute) : fallback;
+}
+
+/** Where further attributes of a tag go. */
+int insertionPlace(const HtmlToken &tag)
+{
+    return tag.end - (tag.selfClosed ? 2 : 1);
 }
 
 /** @p style with another declaration behind what it says. */
@@ -104,175 +112,197 @@ double pixelsOf(const QString &width, int tableWidth)
     return isNumber && pixels >= 0 && pixels < 1e6 ? pixels : -1;
 }
 
-CellExtent extentOf(const HtmlToken &cell, int tableWidth)
+int spanOf(const HtmlToken &cell, QLatin1String key)
 {
-    const QString one = QStringLiteral("1");
-    return {valueOf(cell, QLatin1String("rowspan"), one).toInt(),
-            valueOf(cell, QLatin1String("colspan"), one).toInt(),
-            pixelsOf(valueOf(cell, QLatin1String("width")), tableWidth)};
+    const HtmlAttribute attribute = attributeOf(cell, key);
+    return isThere(attribute) ? attributeText(attribute).toInt() : 1;
 }
 
-/** Finds the tables of a text and says what becomes of their tags. */
-class TablePass
+/** What of a cell's tag matters here. */
+struct Cell
+{
+    HtmlAttribute style;
+    HtmlAttribute width;
+    int insertAt;
+};
+
+/** A table whose end was not read yet. */
+class OpenTable
 {
 public:
-    TablePass(const QString &html, const TableMarks &marks)
-        : m_html(html)
-        , m_marks(marks)
+    explicit OpenTable(const HtmlToken &tag)
+        : m_tag(tag)
+        , m_border(tag)
+        , m_width(valueOf(tag, QLatin1String("width")).toInt())
     {}
 
-    QString run()
+    void addRow()
     {
-        HtmlTokenReader reader(m_html);
-        HtmlToken token;
-        while (reader.next(token)) {
-            if (token.kind == HtmlToken::Kind::Open) {
-                open(token);
-            } else if (token.kind == HtmlToken::Kind::Close && !m_open.empty() &&
-                       isNamed(token, QLatin1String("table"))) {
-                finish(m_open.back());
-                m_open.pop_back();
+        m_cells.emplace_back();
+        m_extents.append(QVector<CellExtent>());
+    }
+
+    void addCell(const HtmlToken &tag)
+    {
+        if (m_cells.empty()) {
+            return;
+        }
+        const HtmlAttribute width = attributeOf(tag, QLatin1String("width"));
+        m_cells.back().push_back(
+            {attributeOf(tag, QLatin1String("style")), width, insertionPlace(tag)});
+        m_extents.last().append({spanOf(tag, QLatin1String("rowspan")),
+                                 spanOf(tag, QLatin1String("colspan")),
+                                 isThere(width) ? pixelsOf(attributeText(width), m_width) : -1});
+    }
+
+    void finish(const TableMarks &marks, std::vector<Edit> *edits) const
+    {
+        markTable(marks, edits);
+        const QVector<QVector<int>> widths =
+            m_width > 0 ? cellWidths(m_extents, m_width, m_border.pixels() + 2 * padding())
+                        : QVector<QVector<int>>();
+        const QString border = m_border.declaration().toHtmlEscaped();
+        const QString bare = assignment(QLatin1String("style"), withDeclaration({}, border));
+        QHash<int, QString> numbers; // the same few widths stand in every row
+        for (size_t row = 0; row < m_cells.size(); ++row) {
+            for (size_t i = 0; i < m_cells[row].size(); ++i) {
+                const Cell &cell = m_cells[row][i];
+                const QString style = isThere(cell.style)
+                                          ? assignment(QLatin1String("style"),
+                                                       withDeclaration(escaped(cell.style), border))
+                                          : bare;
+                set(style, cell.style, cell.insertAt, edits);
+                if (widths.isEmpty()) {
+                    continue;
+                }
+                QString &width = numbers[widths[int(row)][int(i)]];
+                if (width.isEmpty()) {
+                    width = assignment(QLatin1String("width"),
+                                       QString::number(widths[int(row)][int(i)]));
+                }
+                set(width, cell.width, cell.insertAt, edits);
             }
         }
-        return m_open.empty() && m_hasBody ? rewritten() : m_html;
     }
 
 private:
-    void open(const HtmlToken &token)
+    [[nodiscard]] int padding() const
     {
-        if (isNamed(token, QLatin1String("body"))) {
-            m_hasBody = true;
-        } else if (isNamed(token, QLatin1String("table"))) {
-            m_open.push_back({m_rewrites.size(), {}});
-            m_rewrites.push_back({token, {}});
-        } else if (m_open.empty()) {
-            return;
-        } else if (isNamed(token, QLatin1String("tr"))) {
-            m_open.back().rows.emplace_back();
-        } else if (isNamed(token, QLatin1String("td")) && !m_open.back().rows.empty()) {
-            m_open.back().rows.back().push_back(m_rewrites.size());
-            m_rewrites.push_back({token, {}});
-        }
+        return valueOf(m_tag, QLatin1String("cellpadding"), QStringLiteral("1")).toInt();
     }
 
-    void finish(const OpenTable &table)
+    /** The value as it may stand between double quotes. */
+    static QString escaped(const HtmlAttribute &attribute)
     {
-        Rewrite &rewrite = m_rewrites[table.tag];
-        const Border border(rewrite.tag);
-        for (const std::vector<size_t> &row : table.rows) {
-            for (const size_t cell : row) {
-                const QString style = valueOf(m_rewrites[cell].tag, QLatin1String("style"));
-                m_rewrites[cell].attributes.append(
-                    {QStringLiteral("style"), withDeclaration(style, border.declaration())});
-            }
+        if (!isThere(attribute)) {
+            return QString();
         }
-        setWidths(table, border);
-        const QString style = valueOf(rewrite.tag, QLatin1String("style"));
-        if (!style.contains(QLatin1String("border-collapse"))) {
-            rewrite.attributes.append(
-                {QStringLiteral("style"),
-                 withDeclaration(style, QStringLiteral("border-collapse:collapse;"))});
-        }
-        appendMarks(&rewrite.attributes);
+        return attribute.quote == HtmlAttribute::Quote::Double
+                   ? attribute.value.toString()
+                   : attributeText(attribute).toHtmlEscaped();
     }
 
-    void setWidths(const OpenTable &table, const Border &border)
+    static QString assignment(QLatin1String key, const QString &value)
     {
-        const HtmlToken &tag = m_rewrites[table.tag].tag;
-        const int width = valueOf(tag, QLatin1String("width")).toInt();
-        if (width <= 0) {
-            return;
-        }
-        QVector<QVector<CellExtent>> rows;
-        for (const std::vector<size_t> &row : table.rows) {
-            QVector<CellExtent> cells;
-            for (const size_t cell : row) {
-                cells.append(extentOf(m_rewrites[cell].tag, width));
-            }
-            rows.append(cells);
-        }
-        const int padding = valueOf(tag, QLatin1String("cellpadding"), QStringLiteral("1")).toInt();
-        const auto widths = cellWidths(rows, width, border.pixels() + 2 * padding);
-        for (int row = 0; row < widths.size(); ++row) {
-            for (int i = 0; i < widths.at(row).size(); ++i) {
-                m_rewrites[table.rows[size_t(row)][size_t(i)]].attributes.append(
-                    {QStringLiteral("width"), QString::number(widths.at(row).at(i))});
-            }
-        }
+        return key + QLatin1String("=\"") + value + QLatin1Char('"');
     }
 
-    void appendMarks(NewAttributes *attributes) const
+    /** Writes @p text in place of @p old, or at @p insertAt when that is not there. */
+    static void set(const QString &text, const HtmlAttribute &old, int insertAt,
+                    std::vector<Edit> *edits)
     {
-        // Kept on purpose because players know them so: both dynamic kinds have the type 1.
-        const int type = m_marks.tableType;
+        const bool isReplaced = isThere(old);
+        edits->push_back(
+            {isReplaced ? old.begin : insertAt, isReplaced ? old.end : insertAt, text});
+    }
+
+    void markTable(const TableMarks &marks, std::vector<Edit> *edits) const
+    {
+        const auto mark = [this, edits](QLatin1String key, const QString &value) {
+            set(assignment(key, value), attributeOf(m_tag, key), insertionPlace(m_tag), edits);
+        };
         const auto flag = [](bool on) {
             return on ? QStringLiteral("true") : QStringLiteral("false");
         };
-        *attributes += NewAttributes{
-            {QStringLiteral("type"), QString::number(type == 3   ? 2
-                                                     : type == 0 ? 0
-                                                                 : 1)},
-            {QStringLiteral("orientation"), QString::number(type == 1 || type == 3 ? 1 : 0)},
-            {QStringLiteral("dataSourceKey"), m_marks.dataSourceKey},
-            {QStringLiteral("thead"), flag(m_marks.freezesHeader)},
-            {QStringLiteral("header"), flag(m_marks.hasHeader)},
-            {QStringLiteral("fillArea"), flag(m_marks.fillsArea)}};
-    }
-
-    [[nodiscard]] QString rewritten() const
-    {
-        QString result;
-        result.reserve(m_html.size() + 64 * int(m_rewrites.size()));
-        int done = 0;
-        for (const Rewrite &rewrite : m_rewrites) {
-            result += m_html.midRef(done, rewrite.tag.begin - done);
-            appendTag(&result, rewrite);
-            done = rewrite.tag.end;
+        const QString style = escaped(attributeOf(m_tag, QLatin1String("style")));
+        if (!style.contains(QLatin1String("border-collapse"))) {
+            mark(QLatin1String("style"),
+                 withDeclaration(style, QStringLiteral("border-collapse:collapse;")));
         }
-        return result + m_html.midRef(done);
+        // Kept on purpose because players know them so: both dynamic kinds have the type 1.
+        const int type = marks.tableType;
+        mark(QLatin1String("type"), QString::number(type == 3 ? 2 : type == 0 ? 0 : 1));
+        mark(QLatin1String("orientation"), QString::number(type == 1 || type == 3 ? 1 : 0));
+        mark(QLatin1String("dataSourceKey"), marks.dataSourceKey.toHtmlEscaped());
+        mark(QLatin1String("thead"), flag(marks.freezesHeader));
+        mark(QLatin1String("header"), flag(marks.hasHeader));
+        mark(QLatin1String("fillArea"), flag(marks.fillsArea));
     }
 
-    /** The tag with the new attributes in the places of the old ones, further ones at its end. */
-    static void appendTag(QString *html, const Rewrite &rewrite)
-    {
-        *html += QLatin1Char('<') + rewrite.tag.name.toString();
-        NewAttributes further = rewrite.attributes;
-        for (const HtmlAttribute &attribute : rewrite.tag.attributes) {
-            const auto isSame = [&attribute](const QPair<QString, QString> &other) {
-                return attribute.key.compare(other.first, Qt::CaseInsensitive) == 0;
-            };
-            const auto replaced = std::find_if(further.begin(), further.end(), isSame);
-            if (replaced == further.end()) {
-                appendAttribute(html, attribute.key.toString(), attributeText(attribute));
-            } else {
-                appendAttribute(html, replaced->first, replaced->second);
-                further.erase(replaced);
-            }
-        }
-        for (const auto &attribute : qAsConst(further)) {
-            appendAttribute(html, attribute.first, attribute.second);
-        }
-        *html += QLatin1Char('>');
-    }
-
-    static void appendAttribute(QString *html, const QString &key, const QString &value)
-    {
-        *html += QLatin1Char(' ') + key + QLatin1String("=\"") + value.toHtmlEscaped() +
-                 QLatin1Char('"');
-    }
-
-    const QString &m_html;
-    const TableMarks &m_marks;
-    std::vector<Rewrite> m_rewrites;
-    std::vector<OpenTable> m_open;
-    bool m_hasBody = false;
+    HtmlToken m_tag;
+    Border m_border;
+    int m_width;
+    std::vector<std::vector<Cell>> m_cells; ///< Row by row.
+    QVector<QVector<CellExtent>> m_extents;
 };
+
+/** The edits of all tables of a text; false when it has no body or a table does not end. */
+bool findEdits(const QString &html, const TableMarks &marks, std::vector<Edit> *edits)
+{
+    bool hasBody = false;
+    std::vector<OpenTable> open;
+    HtmlTokenReader reader(html);
+    HtmlToken token;
+    while (reader.next(token)) {
+        if (token.kind == HtmlToken::Kind::Open) {
+            hasBody = hasBody || isNamed(token, QLatin1String("body"));
+            if (isNamed(token, QLatin1String("table"))) {
+                open.emplace_back(token);
+            } else if (!open.empty() && isNamed(token, QLatin1String("tr"))) {
+                open.back().addRow();
+            } else if (!open.empty() && isNamed(token, QLatin1String("td"))) {
+                open.back().addCell(token);
+            }
+        } else if (token.kind == HtmlToken::Kind::Close && !open.empty() &&
+                   isNamed(token, QLatin1String("table"))) {
+            open.back().finish(marks, edits);
+            open.pop_back();
+        }
+    }
+    return hasBody && open.empty();
+}
 
 } // namespace
 
 QString unifyTableColumnWidths(const QString &html, const TableMarks &marks)
 {
-    return TablePass(html, marks).run();
+    std::vector<Edit> edits;
+    if (!findEdits(html, marks, &edits)) {
+        return html;
+    }
+    // Tables inside others end first.
+    const auto isBefore = [](const Edit &left, const Edit &right) {
+        return left.begin < right.begin;
+    };
+    if (!std::is_sorted(edits.begin(), edits.end(), isBefore)) {
+        std::stable_sort(edits.begin(), edits.end(), isBefore);
+    }
+    int size = html.size();
+    for (const Edit &edit : edits) {
+        size += 1 + edit.text.size() - (edit.end - edit.begin);
+    }
+    QString result;
+    result.reserve(size);
+    int done = 0;
+    for (const Edit &edit : edits) {
+        result += html.midRef(done, edit.begin - done);
+        if (edit.begin == edit.end) {
+            result += QLatin1Char(' ');
+        }
+        result += edit.text;
+        done = edit.end;
+    }
+    return result + html.midRef(done);
 }
 
 } // namespace lctrlsex
