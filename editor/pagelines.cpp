@@ -59,16 +59,23 @@ Units joined(Units units)
 
 Units frameUnits(const QTextFrame *frame);
 
+Units unitsAt(const QTextFrame::iterator &it)
+{
+    Units units;
+    if (it.currentFrame() != nullptr) {
+        units = frameUnits(it.currentFrame());
+    } else if (it.currentBlock().isValid()) {
+        appendLines(it.currentBlock(), &units);
+    }
+    return units;
+}
+
 /** What follows in a frame or a cell. */
 Units unitsFrom(QTextFrame::iterator it)
 {
     Units units;
     for (; !it.atEnd(); ++it) {
-        if (it.currentFrame() != nullptr) {
-            units += frameUnits(it.currentFrame());
-        } else if (it.currentBlock().isValid()) {
-            appendLines(it.currentBlock(), &units);
-        }
+        units += unitsAt(it);
     }
     return units;
 }
@@ -200,11 +207,16 @@ private:
 
 } // namespace
 
-QVector<PageSlice> paginate(const QTextDocument &document, qreal height)
+QVector<PageSlice> paginate(const QTextDocument &document, qreal height, qreal until)
 {
-    const qreal end = inkBottom(document);
+    Units units;
+    auto it = document.rootFrame()->begin();
+    for (; !it.atEnd() && (units.isEmpty() || units.last().top <= until + height); ++it) {
+        units += unitsAt(it);
+    }
+    const qreal end = it.atEnd() ? inkBottom(document) : std::numeric_limits<qreal>::infinity();
     Filler filler(height, document.documentMargin());
-    for (const Unit &unit : joined(frameUnits(document.rootFrame()))) {
+    for (const Unit &unit : joined(units)) {
         if (unit.top >= end || filler.full()) {
             break;
         }

@@ -2,6 +2,8 @@
 
 #include <QVector>
 
+#include <limits>
+
 class QTextDocument;
 
 namespace lctrlsex {
@@ -23,7 +25,10 @@ constexpr int MostPages = 9999;
  * are never cut; table rows are kept whole where a page can hold them. The first page starts at
  * the document's very top. Empty lines behind the last text make no page of their own; an empty
  * document has one page. At most MostPages.
+ *
+ * What lies more than a page below @p until is not laid out for it and may be left out.
  */
-[[nodiscard]] QVector<PageSlice> paginate(const QTextDocument &document, qreal height);
+[[nodiscard]] QVector<PageSlice> paginate(const QTextDocument &document, qreal height,
+                                          qreal until = std::numeric_limits<qreal>::infinity());
 
 } // namespace lctrlsex

@@ -2,8 +2,10 @@
 
 #include "documentsetup.h"
 #include "itemdocument.h"
+#include "pagelines.h"
 #include "table/tableground.h"
 
+#include <QAbstractTextDocumentLayout>
 #include <QKeyEvent>
 #include <QMimeData>
 #include <QPaintEvent>
@@ -43,6 +45,8 @@ LRichViewEdit::LRichViewEdit(QWidget *parent)
     m_document->setUndoRedoEnabled(true);
     setDocument(m_document);
     setFrameShape(QFrame::NoFrame);
+    connect(m_document->documentLayout(), &QAbstractTextDocumentLayout::update, this,
+            [this] { m_edgesUntil = -1; });
     // The screen draws text without a colour of its own in black, in every palette.
     QPalette colors = palette();
     colors.setColor(QPalette::Text, Qt::black);
@@ -62,6 +66,7 @@ void LRichViewEdit::load(const QString &html, const lctrlsex::TextSettings &sett
 void LRichViewEdit::setItemSize(const QSize &size)
 {
     m_itemSize = size;
+    m_edgesUntil = -1;
     // A page size of the document would be undone by the next resize; this is not.
     if (size.width() > 0) {
         setLineWrapColumnOrWidth(size.width());
@@ -152,19 +157,31 @@ void LRichViewEdit::paintPageEdges(const QRect &region)
     const int left = -horizontalScrollBar()->value();
     const int top = -verticalScrollBar()->value();
     const int right = left + m_itemSize.width();
-    const int height = m_itemSize.height();
-    int edge = top + qMax(1, (region.top() - top + height - 1) / height) * height;
-    if (region.right() < right && region.bottom() < edge) {
-        return; // a blinking cursor asks for no edge
-    }
     QPainter painter(viewport());
     painter.fillRect(QRect(QPoint(right, region.top()), region.bottomRight()),
                      parentWidget()->palette().color(QPalette::Window));
     painter.setPen(QPen(QColor(160, 160, 160), 0, Qt::DashLine));
     painter.drawLine(right, 0, right, viewport()->height());
-    for (; edge <= region.bottom(); edge += height) {
-        painter.drawLine(left, edge, right, edge);
+    for (const qreal edge : pageEdges(region.bottom() - top)) {
+        painter.drawLine(QPointF(left, top + edge), QPointF(right, top + edge));
     }
+}
+
+/** Where pages end, at least down to @p until: a page ends where a line would be cut. */
+const QVector<qreal> &LRichViewEdit::pageEdges(qreal until)
+{
+    if (m_edgesUntil >= until) {
+        return m_pageEdges;
+    }
+    const auto pages = lctrlsex::paginate(*m_document, m_itemSize.height(), until);
+    m_pageEdges.clear();
+    for (int i = 1; i < pages.size(); ++i) {
+        m_pageEdges.append(pages.at(i).top);
+    }
+    const lctrlsex::PageSlice &last = pages.last();
+    m_pageEdges.append(last.top - last.drawnAt + m_itemSize.height());
+    m_edgesUntil = until;
+    return m_pageEdges;
 }
 
 bool LRichViewEdit::canInsertFromMimeData(const QMimeData *source) const

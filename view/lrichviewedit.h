@@ -12,8 +12,8 @@ struct TextSettings;
 /**
  * The view in which the document of a text item is edited.
  *
- * Lines break at the width of the item, whatever the width of the view, and the edges of the
- * item's pages are shown, so that the author sees what the screen will show. Its document loads
+ * Lines break at the width of the item, whatever the width of the view, and it is shown where the
+ * item's pages end, so that the author sees what the screen will show. Its document loads
  * nothing from outside; pasted and dropped content is taken as plain text.
  *
  * The signals are the ways in which a view may ask its editor for something; the editor connects
@@ -78,6 +78,7 @@ private:
     void paintChequers();
     void paintTableGrounds(const QRect &region);
     void paintPageEdges(const QRect &region);
+    [[nodiscard]] const QVector<qreal> &pageEdges(qreal until);
 
     Q_DISABLE_COPY(LRichViewEdit)
 
@@ -86,4 +87,6 @@ private:
     LUM_EditInterface::LTableProperties m_table;
     bool m_singleLine = false;
     bool m_isTransparent = false;
+    QVector<qreal> m_pageEdges; ///< From the top, in pixels of the document.
+    qreal m_edgesUntil = -1;    ///< How far down they are known.
 };
