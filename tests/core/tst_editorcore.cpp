@@ -2,6 +2,7 @@
 #include "fontnames.h"
 #include "fragmentmerge.h"
 #include "htmlunits.h"
+#include "literalmerge.h"
 #include "pageposition.h"
 #include "toolbarformat.h"
 
@@ -10,7 +11,6 @@
 #include <QRandomGenerator>
 #include <QTemporaryDir>
 #include <QTest>
-#include <QTextBlock>
 #include <QTextCursor>
 #include <QTextDocument>
 
@@ -19,31 +19,6 @@ using namespace lctrlsex;
 Q_DECLARE_METATYPE(QTextCharFormat)
 
 namespace {
-
-/** The merge as a restarting procedure, pair by pair; what it leaves is the truth. */
-void mergeLiterally(const QTextBlock &block)
-{
-    QTextCursor cursor(block);
-    bool restart = true;
-    while (restart) {
-        restart = false;
-        QVector<QTextFragment> fragments;
-        for (auto it = block.begin(); !it.atEnd(); ++it) {
-            fragments.append(it.fragment());
-        }
-        for (int i = 0; i + 1 < fragments.size() && !restart; ++i) {
-            const QTextCharFormat left = fragments[i].charFormat();
-            if (areFormatsEqual(left, fragments[i + 1].charFormat())) {
-                const QString joined = fragments[i].text() + fragments[i + 1].text();
-                cursor.setPosition(fragments[i].position());
-                cursor.setPosition(fragments[i + 1].position() + fragments[i + 1].length(),
-                                   QTextCursor::KeepAnchor);
-                cursor.insertText(joined, left);
-                restart = true;
-            }
-        }
-    }
-}
 
 QTextCharFormat randomFormat(QRandomGenerator *random)
 {
@@ -99,6 +74,11 @@ void TestEditorCore::unitsSwapWithoutTouchingNumbers_data()
                              << "font-size:1px font-size:22px";
     QTest::newRow("other lengths stay") << "margin:3pt"
                                         << "margin:3pt";
+    QTest::newRow("what the author wrote stays")
+        << "<p style='font-size:2.pt'>font-size:3pt &lt;font-size:4px<b style='font-size:5pt'/>"
+        << "<p style='font-size:2.px'>font-size:3pt &lt;font-size:4px<b style='font-size:5px'/>";
+    QTest::newRow("half a pair") << QString(QChar(0xd800)) + "font-size:1pt"
+                                 << QString(QChar(0xd800)) + "font-size:1px";
 }
 
 void TestEditorCore::unitsSwapWithoutTouchingNumbers()
