@@ -6,12 +6,12 @@
 #include "ltexteffectnode.h"
 #include "nodecall.h"
 #include "nodepage.h"
+#include "pagefiles.h"
 #include "scenethumbnailcapture.h"
 #include "table/richtable.h"
 #include "table/tablebinding.h"
 
 #include <QCoreApplication>
-#include <QImageReader>
 #include <QTextDocument>
 
 #include <utility>
@@ -239,15 +239,6 @@ void NodePublisher::announce(const QPointer<LTextEffectNode> &node, int attachme
     if (isStill(node, attachment)) {
         node->ReDrawImaged();
     }
-}
-
-QImage NodePublisher::pageFile(const QStringList &files, int page)
-{
-    if (page < 1 || page > files.size()) {
-        return QImage();
-    }
-    QImageReader reader(files.at(page - 1));
-    return isPageSize(reader.size()) ? reader.read() : QImage();
 }
 
 QImage NodePublisher::pageImage(int page)

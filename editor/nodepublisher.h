@@ -101,7 +101,6 @@ private:
                    const std::function<bool()> &isStillOurs);
     void announce(const QPointer<LTextEffectNode> &node, int attachment);
     [[nodiscard]] Texts textsNow();
-    [[nodiscard]] static QImage pageFile(const QStringList &files, int page);
 
     Q_DISABLE_COPY(NodePublisher)
 

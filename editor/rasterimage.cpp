@@ -115,11 +115,13 @@ RasterImage tooLarge()
 
 } // namespace
 
-RasterImage decodeRaster(const QByteArray &data)
+RasterImage decodeRaster(const QByteArray &data, qint64 mostBytes)
 {
-    if (data.size() > largestRasterData) {
-        return failure(QT_TRANSLATE_NOOP(
-            "RasterImage", "The picture file is larger than 16 MB; save it smaller."));
+    if (data.size() > mostBytes) {
+        return {QImage(),
+                tr(QT_TRANSLATE_NOOP("RasterImage",
+                                     "The picture file is larger than %1 MB; save it smaller."))
+                    .arg(mostBytes / (1024 * 1024))};
     }
     const QByteArray format = formatOf(data);
     if (format.isEmpty()) {
@@ -147,7 +149,7 @@ RasterImage decodeRaster(const QByteArray &data)
     return {image, QString()};
 }
 
-RasterImage readRasterFile(const QString &path)
+RasterImage readRasterFile(const QString &path, qint64 mostBytes)
 {
     const char *const unreadable = QT_TRANSLATE_NOOP(
         "RasterImage", "The picture cannot be read; check that the file exists and may be read.");
@@ -175,7 +177,7 @@ RasterImage readRasterFile(const QString &path)
     }
 #endif
     // One byte more than allowed is enough to know.
-    return decodeRaster(file.read(largestRasterData + 1));
+    return decodeRaster(file.read(mostBytes + 1), mostBytes);
 }
 
 } // namespace lctrlsex

@@ -15,7 +15,7 @@ struct RasterImage
     QString error;
 };
 
-/** Most bytes that a picture may have. */
+/** Most bytes that a picture in a document may have. */
 constexpr qint64 largestRasterData = qint64(16) * 1024 * 1024;
 /** Most pixels in all and on a side. */
 constexpr qint64 mostRasterPixels = qint64(64) * 1024 * 1024;
@@ -24,14 +24,16 @@ constexpr int longestRasterSide = 16384;
 /**
  * Decodes a PNG, JPEG, GIF (its first frame) or BMP picture, told apart by their first bytes alone.
  * The size is read before anything is decoded, so that a refusal is quick and small. A picture
- * that is cut off or lies about its size is an error, never a part of a picture. Any thread.
+ * that is cut off, lies about its size or has more than @p mostBytes is an error, never a part of a
+ * picture. Any thread.
  */
-[[nodiscard]] RasterImage decodeRaster(const QByteArray &data);
+[[nodiscard]] RasterImage decodeRaster(const QByteArray &data,
+                                       qint64 mostBytes = largestRasterData);
 
 /**
  * Reads a picture from a file as decodeRaster(). What is not a regular file (a pipe, a device, a
  * folder) is an error and is not waited for. Any thread.
  */
-[[nodiscard]] RasterImage readRasterFile(const QString &path);
+[[nodiscard]] RasterImage readRasterFile(const QString &path, qint64 mostBytes = largestRasterData);
 
 } // namespace lctrlsex

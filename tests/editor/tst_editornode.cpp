@@ -2,11 +2,14 @@
 #include "editorfixture.h"
 #include "lscreennode.h"
 
+#include <QElapsedTimer>
 #include <QLabel>
 #include <QMetaMethod>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QTemporaryDir>
+
+#include <sys/stat.h>
 
 /** What the editor reads from a node and writes to it, through the loaded plug-in. */
 class TestEditorNode : public QObject
@@ -355,15 +358,46 @@ void TestEditorNode::pagesComeFromFilesFirst()
     QTemporaryDir folder;
     QImage page(256, 64, QImage::Format_ARGB32);
     page.fill(Qt::green);
-    QVERIFY(page.save(folder.filePath("1.png")));
-    item.node->SetFilePath("DynamicData", {folder.filePath("1.png"), folder.filePath("gone.png")});
-    item.action("actionUseHollow")->trigger();
-    item.action("actionUseHollow")->trigger();
-    QCOMPARE(item.node->PreviewCache().pixelColor(200, 60), QColor(Qt::green));
-    item.call("PageChanged", Q_ARG(uint, 2), Q_ARG(uint, 2)); // a file that cannot be read
-    item.action("actionUseHollow")->trigger();
-    item.action("actionUseHollow")->trigger();
-    QVERIFY(item.node->PreviewCache().pixelColor(200, 60) != QColor(Qt::green));
+    const auto path = [&folder](const QString &name, const QByteArray &bytes) {
+        QFile file(folder.filePath(name));
+        if (file.open(QIODevice::WriteOnly)) {
+            file.write(bytes);
+        }
+        return file.fileName();
+    };
+    const QString png = folder.filePath("1.png");
+    const QString bmp = folder.filePath("1.bmp");
+    QVERIFY(page.save(png) && page.save(bmp));
+    QFile picture(bmp);
+    QVERIFY(picture.open(QIODevice::ReadWrite));
+    picture.seek(18);
+    picture.write(QByteArray::fromHex("3075000030750000")); // 30000 x 30000
+    picture.close();
+    const QString pipe = folder.filePath("pipe.png");
+    QCOMPARE(::mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
+    const QStringList noPages = {folder.filePath("gone.png"),
+                                 folder.path(),
+                                 pipe,
+                                 bmp,
+                                 "/dev/zero",
+                                 path("empty.png", ""),
+                                 path("text.png", "text"),
+                                 path("a.svg", "<svg width='256' height='64'/>")};
+    item.node->SetFilePath("DynamicData", QStringList(png) + noPages);
+    const auto redraw = [&item] {
+        item.action("actionUseHollow")->trigger();
+        item.action("actionUseHollow")->trigger();
+        return item.node->PreviewCache().pixelColor(200, 60) == QColor(Qt::green);
+    };
+    QVERIFY(redraw());
+    for (int i = 0; i < noPages.size(); ++i) {
+        item.call("PageChanged", Q_ARG(uint, uint(i) + 2), Q_ARG(uint, 99));
+        QElapsedTimer timer;
+        timer.start();
+        QVERIFY2(!redraw(), qPrintable(noPages.at(i)));
+        QVERIFY2(timer.elapsed() < 500, qPrintable(noPages.at(i)));
+        QCOMPARE(item.node->PreviewCache().size(), QSize(256, 64)); // the top, not nothing
+    }
 }
 
 void TestEditorNode::pagePositionIsClamped()
