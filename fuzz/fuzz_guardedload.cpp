@@ -1,9 +1,9 @@
 // What the guard accepts, Qt loads, lays out as a page and draws, and comes to an end.
 
+#include "guiapplication.h"
 #include "htmlguard.h"
 #include "htmlguardpass.h"
 
-#include <QGuiApplication>
 #include <QImage>
 #include <QPainter>
 #include <QTextDocument>
@@ -23,21 +23,11 @@ protected:
     }
 };
 
-QGuiApplication *application()
-{
-    static int count = 1;
-    static char name[] = "fuzz";
-    static char *arguments[] = {name, nullptr};
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    return new QGuiApplication(count, arguments);
-}
-
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
-    static const QGuiApplication *const program = application();
-    Q_UNUSED(program)
+    needGuiApplication();
     const lctrlsex::GuardedHtml guarded =
         lctrlsex::guardHtml(QString::fromUtf8(reinterpret_cast<const char *>(data), int(size)));
     if (!guarded.accepted) {

@@ -1,8 +1,9 @@
 #!/usr/bin/env python3
-"""Writes the seeds that are made, not found: pictures, stored texts and short markup."""
+"""Writes the seeds that are made, not found: pictures, stored texts, short markup and choices."""
 
 import base64
 import pathlib
+import random
 import struct
 import zlib
 
@@ -104,6 +105,29 @@ def markup():
               f"<{first}>a<{second}>b<{first}>c</{second}>d</{first}>e<{first}/>f".encode())
 
 
+def units():
+    numbers = ["12", "10.5", "9.", ".5", "", "1e3", "-1", "0012", "9" * 400, "1.2.3"]
+    frames = ["font-size:{}pt", "font-size: {}px;", "<p style=' font-size:\t{}pt'>a</p>",
+              "<p>font-size:{}pt</p>font-size:{}px", "<meta  content=\"1\" name=\"qrichtext\"/>{}",
+              "&lt;font-size:{}pt<b style=\"font-size:{}px\">font-size:{}pxfont-size:{}pt"]
+    for i, number in enumerate(numbers):
+        for k, frame in enumerate(frames):
+            write("htmlunits", f"size-{i}-{k}", frame.replace("{}", number).encode())
+    for i, odd in enumerate([b"\xed\xa0\x80font-size:1pt", b"font-size:\xc2\xa01pt",
+                             b"font-size:\xd9\xa1pt", b"><><font-size:1pt", b"font-size:font-size:1pt"]):
+        write("htmlunits", f"odd-{i}", odd)
+
+
+def choices():
+    for target, longest in (("storedtext", 400), ("fragmentmerge", 150)):
+        for i in range(60):
+            numbers = random.Random(f"{target} {i}")
+            size = longest * (i + 1) // 60
+            write(target, f"choices-{i}", bytes(numbers.randrange(256) for _ in range(size)))
+
+
 pictures()
 texts()
 markup()
+units()
+choices()
