@@ -83,10 +83,11 @@ GuardedHtml refusal(const QString &html, int position, HtmlExcess excess)
     return refusal(html, position, found->reason, found->remedy);
 }
 
+/** Qt stores a bare placeholder of an object, U+FFFC, in a way that loses the text behind it. */
 bool isRefusedCharacter(uint code)
 {
-    return code == 0 || code == 0xfffe || code == 0xffff || (code >= 0xd800 && code <= 0xdfff) ||
-           code > 0x10ffff;
+    return code == 0 || code == 0xfffc || code == 0xfffe || code == 0xffff ||
+           (code >= 0xd800 && code <= 0xdfff) || code > 0x10ffff;
 }
 
 /** True when some character is worth a closer look; four are tried at a time. */

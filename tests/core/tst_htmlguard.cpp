@@ -175,6 +175,7 @@ void tst_HtmlGuard::rewrites_data()
     row("a&#0;b&#xfffe;c&#xd800;d&#x110000;e", "a\ufffdb\ufffdc\ufffdd\ufffde");
     row("a&#0", "a\ufffd");
     row("a\uffff", "a\ufffd");
+    row("a\ufffcb&#xfffc;", "a\ufffdb\ufffd");
     row("a<!--StartFragment-->b<!--EndFragment-->c", "<!-- -->b");
     QTest::newRow("null") << QString("a") + QChar(0) + "b" << QStringLiteral("a\ufffdb");
     QTest::newRow("surrogates") << QString(QChar(0xdc00)) + QChar(0xd800) + QChar(0xdc00) +
