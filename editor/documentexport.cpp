@@ -78,7 +78,7 @@ ExportedDocument DocumentExport::texts()
     if (m_document->rootFrame()->childFrames().isEmpty() && writeChanged()) {
         return joined();
     }
-    // Regular expressions find nothing at all in a text with lone surrogates.
+    // Both forms hold the same text, lone surrogates in neither.
     const QString html = wellFormed(m_document->toHtml());
     return {encodeUtf8(html.toUtf8()), replacePtWithPx(html)};
 }

@@ -922,10 +922,6 @@
         <translation>图片过大；请以每边最多 16384 像素、总计最多 6400 万像素保存。</translation>
     </message>
     <message>
-        <source>The picture file is larger than %1 MB; save it smaller.</source>
-        <translation>图片文件大于 %1 MB；请缩小后保存。</translation>
-    </message>
-    <message>
         <source>The file is not a PNG, JPEG, GIF or BMP picture; convert it to one of these.</source>
         <translation>该文件不是 PNG、JPEG、GIF 或 BMP 图片；请转换为其中一种格式。</translation>
     </message>

@@ -31,7 +31,7 @@ using Edit = std::function<void(QTextCursor *, QRandomGenerator *)>;
 QString randomText(QRandomGenerator *random)
 {
     static const QStringList texts = {QStringLiteral("plain "),
-                                      QStringLiteral("a<b>&\"c\" font-size:12 pt x"),
+                                      QStringLiteral("a<b>&\"c\" font-size:12pt x"),
                                       QStringLiteral("\u05d0\u05d1"),
                                       QStringLiteral("\u6e29\u5ea6"),
                                       QString(QChar::LineSeparator) + QLatin1Char('y'),
