@@ -264,9 +264,21 @@ void TestEditorNode::aReturningAnnouncementDoesNotRecur()
         item.call("TextDrawImage");
         --depth;
     });
+    int announced = 0;
+    int nested = 0;
+    const auto announce = [&] {
+        ++announced;
+        deepest = qMax(deepest, ++nested);
+        item.call("TextDrawImage");
+        --nested;
+    };
+    auto *manager = DataSourceConfigManager::instance();
+    connect(manager, &DataSourceConfigManager::ConfigChanged, item.node.get(), announce);
+    connect(manager, &DataSourceConfigManager::SourceChanged, item.node.get(), announce);
     item.type("x");
     item.settle();
     QCOMPARE(deepest, 1);
+    QCOMPARE(announced, 2); // one of each kind
     QCOMPARE(item.node->GetPlayText(), QString("xfirst"));
 }
 
