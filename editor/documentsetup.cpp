@@ -63,6 +63,44 @@ struct Change
     QTextCharFormat format;
 };
 
+bool inPoints(QTextCharFormat *format)
+{
+    if (!format->hasProperty(QTextFormat::FontPixelSize)) {
+        return false;
+    }
+    format->setFontPointSize(qMax(1, format->intProperty(QTextFormat::FontPixelSize)));
+    format->clearProperty(QTextFormat::FontPixelSize);
+    return true;
+}
+
+/** Lets @p change work on every format; it tells whether it changed one. */
+void changeFormats(QTextDocument *document, bool (*change)(QTextCharFormat *))
+{
+    QVector<Change> changes;
+    QTextCursor cursor(document);
+    cursor.beginEditBlock();
+    for (QTextBlock block = document->begin(); block.isValid(); block = block.next()) {
+        QTextCharFormat empty = block.charFormat();
+        if (change(&empty)) {
+            cursor.setPosition(block.position());
+            cursor.setBlockCharFormat(empty); // the height of an empty line
+        }
+        changes.clear();
+        for (auto it = block.begin(); !it.atEnd(); ++it) {
+            QTextCharFormat format = it.fragment().charFormat();
+            if (change(&format)) {
+                changes.append({it.fragment().position(), it.fragment().length(), format});
+            }
+        }
+        for (const Change &found : qAsConst(changes)) {
+            cursor.setPosition(found.position);
+            cursor.setPosition(found.position + found.length, QTextCursor::KeepAnchor);
+            cursor.setCharFormat(found.format);
+        }
+    }
+    cursor.endEditBlock();
+}
+
 } // namespace
 
 bool TextSettings::operator==(const TextSettings &other) const
@@ -118,35 +156,20 @@ bool pointsToPixels(QTextCharFormat *format)
     }
     const int pixels = qMax(1, qRound(format->fontPointSize()));
     format->clearProperty(QTextFormat::FontPointSize);
-    format->setProperty(QTextFormat::FontPixelSize, pixels);
+    if (!format->hasProperty(QTextFormat::FontPixelSize)) { // a size inside of another
+        format->setProperty(QTextFormat::FontPixelSize, pixels);
+    }
     return true;
 }
 
 void pointsToPixels(QTextDocument *document)
 {
-    QVector<Change> changes;
-    QTextCursor cursor(document);
-    cursor.beginEditBlock();
-    for (QTextBlock block = document->begin(); block.isValid(); block = block.next()) {
-        QTextCharFormat empty = block.charFormat();
-        if (pointsToPixels(&empty)) {
-            cursor.setPosition(block.position());
-            cursor.setBlockCharFormat(empty); // the height of an empty line
-        }
-        changes.clear();
-        for (auto it = block.begin(); !it.atEnd(); ++it) {
-            QTextCharFormat format = it.fragment().charFormat();
-            if (pointsToPixels(&format)) {
-                changes.append({it.fragment().position(), it.fragment().length(), format});
-            }
-        }
-        for (const Change &change : qAsConst(changes)) {
-            cursor.setPosition(change.position);
-            cursor.setPosition(change.position + change.length, QTextCursor::KeepAnchor);
-            cursor.setCharFormat(change.format);
-        }
-    }
-    cursor.endEditBlock();
+    changeFormats(document, pointsToPixels);
+}
+
+void pixelsToPoints(QTextDocument *document)
+{
+    changeFormats(document, inPoints);
 }
 
 } // namespace lctrlsex

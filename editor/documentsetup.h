@@ -57,4 +57,10 @@ void pointsToPixels(QTextDocument *document);
 /** The same for one format; false when its size is not in points. */
 bool pointsToPixels(QTextCharFormat *format);
 
+/**
+ * The other way round, for the document of a view: Qt writes a size in pixels down as that in
+ * points around it. To be called after the content is set.
+ */
+void pixelsToPoints(QTextDocument *document);
+
 } // namespace lctrlsex

@@ -50,7 +50,8 @@ void fill(QTextDocument *document, Choices choices)
         if (choices.onceIn(8)) {
             cursor.insertImage(choices.onceIn(2) ? ":/none.png" : "data://bindKey/s/f.png");
         } else {
-            cursor.insertText(choices.oneOf(pieces), format(&choices));
+            const QTextCharFormat look = format(&choices);
+            cursor.insertText(choices.oneOf(pieces), look);
         }
     }
 }

@@ -1,8 +1,10 @@
-// What an item stores, it loads and stores again without changing anything any more.
+// What an item stores, it loads, shows and stores again without changing anything any more.
 
 #include "documentstorage.h"
+#include "fragmentmerge.h"
 #include "guiapplication.h"
 #include "htmlguard.h"
+#include "htmlunits.h"
 #include "itemdocument.h"
 #include "markup.h"
 
@@ -39,7 +41,15 @@ Stored storedAgain(const QString &raw)
     ItemDocument document;
     document.clearForView(TextSettings());
     document.setHtml(guarded.html);
-    return {encodeDocument(document.toHtml()), textOf(document)};
+    pixelsToPoints(&document);
+    smartMerge(&document); // runs may differ in what is not written
+    const QString html = document.toHtml();
+    QTextDocument shown;
+    shown.setHtml(QString::fromUtf8(replacePtWithPx(html).toUtf8()));
+    if (textOf(shown) != textOf(document)) {
+        std::abort();
+    }
+    return {encodeDocument(html), textOf(document)};
 }
 
 } // namespace

@@ -32,13 +32,14 @@ const char *const pieces[] = {"word",
 
 const char *const characterStyles[] = {"font-family:'DejaVu Sans';",
                                        "font-size:10.5pt;",
+                                       "font-size:16px;",
                                        "font-weight:600;",
                                        "font-style:italic;",
                                        "text-decoration: underline;",
                                        "text-decoration: line-through;",
                                        "color:#ff0000;",
                                        "background-color:#00ff00;",
-                                       "vertical-align:super;",
+
                                        "white-space:normal;"};
 
 const char *const blockStyles[] = {
@@ -79,9 +80,23 @@ QString styles(Choices *choices, const char *const (&values)[count])
     return result + '"';
 }
 
-QString element(const QString &name, const QString &attributes, const QString &content)
+/** In braces, because the choices for the arguments of a function may be made in any order. */
+struct Element
 {
-    return '<' + name + attributes + '>' + content + "</" + name.section(' ', 0, 0) + '>';
+    QString name;
+    QString attributes;
+    QString content;
+
+    [[nodiscard]] QString html() const
+    {
+        return '<' + name + attributes + '>' + content + "</" + name + '>';
+    }
+};
+
+QString anyUnit(Choices *choices)
+{
+    const int row = choices->below(256);
+    return QStringLiteral("&#%1;").arg(256 * row + choices->below(256));
 }
 
 QString line(Choices *choices, int depth)
@@ -90,13 +105,15 @@ QString line(Choices *choices, int depth)
     for (int more = choices->below(4); more > 0; --more) {
         switch (depth < deepest ? choices->below(6) : 0) {
         case 1:
-            result += element("span", styles(choices, characterStyles), line(choices, depth + 1));
+            result +=
+                Element{"span", styles(choices, characterStyles), line(choices, depth + 1)}.html();
             break;
         case 2:
-            result += element("a", " href=\"bindStyle;1;a&amp;b\"", line(choices, depth + 1));
+            result +=
+                Element{"a", " href=\"bindStyle;1;a&amp;b\"", line(choices, depth + 1)}.html();
             break;
-        case 3: // any character that one unit can be
-            result += QStringLiteral("&#%1;").arg(choices->below(256) * 256 + choices->below(256));
+        case 3:
+            result += anyUnit(choices);
             break;
         default:
             result += text(choices->oneOf(pieces));
@@ -113,14 +130,14 @@ QString table(Choices *choices)
     for (int more = 1 + choices->below(3); more > 0; --more) {
         QString cells;
         for (int left = 1 + choices->below(3); left > 0; --left) {
-            cells += element("td", text(choices->oneOf(cellAttributes)), flow(choices, 1));
+            cells += Element{"td", text(choices->oneOf(cellAttributes)), flow(choices, 1)}.html();
         }
-        rows += element("tr", QString(), cells);
+        rows += Element{"tr", QString(), cells}.html();
         if (choices->onceIn(5)) {
-            rows = element("thead", QString(), rows);
+            rows = Element{"thead", QString(), rows}.html();
         }
     }
-    return element("table", text(choices->oneOf(tableAttributes)), rows);
+    return Element{"table", text(choices->oneOf(tableAttributes)), rows}.html();
 }
 
 QString flow(Choices *choices, int depth)
@@ -133,9 +150,10 @@ QString flow(Choices *choices, int depth)
         } else if (kind == 3) {
             result += line(choices, 0);
         } else {
-            result += element(text(choices->oneOf(blocks)),
-                              text(choices->oneOf(blockAttributes)) + styles(choices, blockStyles),
-                              line(choices, 0));
+            const QString attributes = text(choices->oneOf(blockAttributes));
+            result += Element{text(choices->oneOf(blocks)),
+                              attributes + styles(choices, blockStyles), line(choices, 0)}
+                          .html();
         }
     }
     return result;

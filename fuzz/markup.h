@@ -10,6 +10,6 @@
  *
  * Left out is what Qt 5.15 reads but writes down as something else: headings, lists, rulers,
  * preformatted and nested tables, backgrounds of paragraphs, letter spacing, colours with alpha,
- * pixels inside of points.
+ * images in raised text.
  */
 [[nodiscard]] QString markup(Choices choices);

@@ -45,6 +45,7 @@ private slots:
     void spacing();
     void spacingReachesAllText();
     void linksAreNotUnderlined();
+    void pixelsInsideOfPointsCount();
 
 private:
     QTemporaryDir m_folder;
@@ -200,6 +201,22 @@ void TestItemDocument::linksAreNotUnderlined()
     cursor.setPosition(2);
     QVERIFY(cursor.charFormat().isAnchor());
     QVERIFY(!cursor.charFormat().fontUnderline());
+}
+
+void TestItemDocument::pixelsInsideOfPointsCount()
+{
+    const QString html = "<body style='font-size:12pt'><p><b style='font-size:40px'>text</b></p>";
+    ItemDocument page;
+    page.loadItem(html, {});
+    ItemDocument view;
+    view.clearForView({});
+    view.setHtml(html);
+    pixelsToPoints(&view);
+    ItemDocument reopened;
+    reopened.clearForView({});
+    reopened.setHtml(view.toHtml());
+    QVERIFY(qAbs(page.idealWidth() - view.idealWidth()) < 3); // their margins differ
+    QCOMPARE(reopened.idealWidth(), view.idealWidth());
 }
 
 QTEST_MAIN(TestItemDocument)
