@@ -9,22 +9,21 @@
 #include "ltexteffectnode.h"
 #include "ltranslation.h"
 #include "nodepublisher.h"
+#include "noticestrip.h"
+#include "pastedtext.h"
 #include "table/bindingmenus.h"
 #include "table/tablecommands.h"
 
 #include <QEvent>
-#include <QFrame>
-#include <QHBoxLayout>
 #include <QKeyEvent>
-#include <QLabel>
-#include <QPushButton>
 #include <QShortcut>
 #include <QToolBar>
 #include <QVBoxLayout>
 
 namespace {
 
-constexpr int MergeDelay = 50; // milliseconds
+constexpr int MergeDelay = 50;    // milliseconds
+constexpr int GrowthDelay = 1000; // the check takes longer than a key should
 
 } // namespace
 
@@ -47,6 +46,9 @@ TextEdit::TextEdit(QWidget *parent)
     m_mergeTimer.setSingleShot(true);
     m_mergeTimer.setInterval(MergeDelay);
     connect(&m_mergeTimer, SIGNAL(timeout()), this, SLOT(performSmartMerge()));
+    m_growthTimer.setSingleShot(true);
+    m_growthTimer.setInterval(GrowthDelay);
+    connect(&m_growthTimer, &QTimer::timeout, this, &TextEdit::checkGrowth);
 
     setupEditActions(toolBar);
     setupTextActions();
@@ -102,34 +104,50 @@ void TextEdit::setupTextActions()
 
 QWidget *TextEdit::noticeStrip()
 {
-    m_notice = new QFrame(this);
-    m_notice->setObjectName(QStringLiteral("NoticeStrip"));
-    m_notice->setStyleSheet(QStringLiteral("#NoticeStrip{background-color:#8c2f1b;}"));
-    auto *layout = new QHBoxLayout(m_notice);
-    m_noticeLabel = new QLabel(m_notice);
-    m_noticeLabel->setObjectName(QStringLiteral("NoticeLabel"));
-    m_noticeLabel->setTextFormat(Qt::PlainText); // it may quote what a document holds
-    m_noticeLabel->setWordWrap(true);
-    m_noticeLabel->setStyleSheet(
-        QStringLiteral("color:white;font-size:16px; padding: 0px; a { text-decoration: none; }"));
-    m_noticeButton = new QPushButton(m_notice);
-    m_noticeButton->setObjectName(QStringLiteral("EditAsPlainText"));
-    layout->addWidget(m_noticeLabel, 1);
-    layout->addWidget(m_noticeButton);
-    connect(m_noticeButton, &QPushButton::clicked, this, [this] {
+    m_notice = new lctrlsex::NoticeStrip(this);
+    connect(m_notice, &lctrlsex::NoticeStrip::plainTextWanted, this, [this] {
         m_publisher->replaceStored();
         showNotice(QString());
         setUsable(true);
         TextDrawImage();
     });
-    m_notice->hide();
     return m_notice;
 }
 
 void TextEdit::showNotice(const QString &text)
 {
-    m_noticeLabel->setText(text);
-    m_notice->setVisible(!text.isEmpty());
+    m_notice->show(lctrlsex::NoticeStrip::Kept, text);
+}
+
+/** Shows why something was not done, until the next change of the text. */
+void TextEdit::showRefusal(const QString &text)
+{
+    m_refusedRevision = m_view->document()->revision();
+    m_notice->show(lctrlsex::NoticeStrip::Refusal, text);
+}
+
+void TextEdit::followGrowth()
+{
+    const QTextDocument *const document = m_view->document();
+    if (document->revision() != m_refusedRevision) { // the end of a refused drop announces one too
+        m_notice->clear(lctrlsex::NoticeStrip::Refusal);
+    }
+    if (!m_publisher->keepsStored()) {
+        m_growthTimer.start();
+    }
+}
+
+/** Warns while what was typed is stored but could not be opened again. */
+void TextEdit::checkGrowth()
+{
+    const bool isAsLoaded = !m_view->document()->isModified();
+    const QString problem =
+        isAsLoaded ? QString() : lctrlsex::reopeningProblem(*m_view->document());
+    m_notice->clear(lctrlsex::NoticeStrip::Warning);
+    if (!problem.isEmpty()) {
+        m_notice->show(lctrlsex::NoticeStrip::Warning,
+                       tr("This text could not be opened again as it is now: %1").arg(problem));
+    }
 }
 
 void TextEdit::setUsable(bool on)
@@ -160,6 +178,7 @@ void TextEdit::CreateConnect()
     connect(m_view, SIGNAL(cursorPositionChanged()), this, SLOT(CursorPositionFontStatusMarked()));
     // Queued, so that the edit that caused it has ended.
     connect(m_view, SIGNAL(textChanged()), this, SLOT(TextChanged()), Qt::QueuedConnection);
+    connect(m_view, &QTextEdit::textChanged, this, &TextEdit::followGrowth);
     connect(m_view, SIGNAL(InsertCopyText(QString)), this, SLOT(InsertCopyText(QString)));
     connect(m_view, SIGNAL(InsertFieldNameSignal(QString)), this,
             SLOT(ONInsertFieldNameChanged(QString)));
@@ -177,10 +196,10 @@ void TextEdit::Translate()
 {
     m_toolBar->translate();
     m_binding->retranslate();
-    m_noticeButton->setText(tr("Edit as Plain Text"));
-    m_noticeButton->setToolTip(tr("The stored document is replaced by what you see here"));
+    m_notice->translate();
+    showNotice(m_publisher->notice());
+    m_growthTimer.start();
     m_view->setAccessibleName(tr("Text"));
-    m_noticeLabel->setText(m_publisher->notice());
 }
 
 bool TextEdit::Contain(int value)

@@ -14,9 +14,6 @@
 
 class LTextEffectNode;
 class QAction;
-class QFrame;
-class QLabel;
-class QPushButton;
 class QToolBar;
 class LRichViewEdit;
 
@@ -26,6 +23,7 @@ class EditToolBar;
 class FieldValues;
 class FormatCommands;
 class NodePublisher;
+class NoticeStrip;
 class TableCommands;
 } // namespace lctrlsex
 
@@ -104,7 +102,11 @@ public slots:
 
     // Text and tables
 
-    /** Inserts @p text in the tool bar's format, always white; on one line in single-line mode. */
+    /**
+     * Inserts @p text in the tool bar's format, always white; on one line in single-line mode.
+     * What is too long, or would make the document one that cannot be opened again, is refused
+     * with a notice and changes nothing.
+     */
     void InsertCopyText(QString text);
     void InsertTable();
     /** Gives the current table the look of @p properties; null is ignored. */
@@ -207,6 +209,9 @@ private:
 
     QWidget *noticeStrip();
     void showNotice(const QString &text);
+    void showRefusal(const QString &text);
+    void followGrowth();
+    void checkGrowth();
     void setUsable(bool on);
     void flush();
     void letGo();
@@ -230,13 +235,13 @@ private:
     std::unique_ptr<lctrlsex::BindingMenus> m_binding;
     std::unique_ptr<lctrlsex::FieldValues> m_fields;
     QToolBar *m_dataToolBar = nullptr;
-    QFrame *m_notice = nullptr;
-    QLabel *m_noticeLabel = nullptr;
-    QPushButton *m_noticeButton = nullptr;
+    lctrlsex::NoticeStrip *m_notice = nullptr;
     QColor m_textColor = Qt::white; ///< Of text that is typed where no colour shows.
     int m_attachment = 0;           ///< Counts Init(), so that a node is told from the one before.
     bool m_singleLine = false;
     bool m_initialising = false;
     bool m_firstShow = true;
+    int m_refusedRevision = -1; ///< Of the document when something was refused.
     QTimer m_mergeTimer;
+    QTimer m_growthTimer;
 };

@@ -6,11 +6,11 @@
 #include "ltexteffectnode.h"
 #include "nodecall.h"
 #include "nodepublisher.h"
+#include "pastedtext.h"
 #include "table/fieldformat.h"
 #include "textedit.h"
 
 #include <QComboBox>
-#include <QRegularExpression>
 #include <QTextBlock>
 
 using lctrlsex::nodeCall;
@@ -19,6 +19,7 @@ namespace {
 
 constexpr int LeastLineSpacing = 100;
 constexpr int MostWordSpacing = 99;
+constexpr int AsGoodAsTyped = 100; // characters; what they make too long is noticed as typing is
 
 /** Whether @p value is one that the word spacing box can show. */
 bool isWordSpacing(int value)
@@ -225,13 +226,17 @@ void TextEdit::InsertCopyText(QString text)
     if (m_view->isReadOnly()) {
         return;
     }
-    if (m_singleLine) {
-        static const QRegularExpression breaks(QStringLiteral("[\\n\\r]"));
-        text.remove(breaks);
+    // Kept on purpose because screens are dark: pasted text takes the tool bar's look in white.
+    const lctrlsex::TypingStyle style = m_toolBar->typingStyle(Qt::white);
+    lctrlsex::PastedText pasted = lctrlsex::pastedText(text, m_singleLine);
+    if (pasted.text.size() > AsGoodAsTyped) {
+        pasted.refusal =
+            lctrlsex::insertionProblem(m_view->textCursor(), pasted.text, style.toFormat());
     }
-    if (!text.isEmpty()) {
-        // Kept on purpose because screens are dark: pasted text takes the tool bar's look in white.
-        m_format->insertText(text, m_toolBar->typingStyle(Qt::white));
+    if (!pasted.refusal.isEmpty()) {
+        showRefusal(pasted.refusal);
+    } else if (!pasted.text.isEmpty()) {
+        m_format->insertText(pasted.text, style);
     }
 }
 

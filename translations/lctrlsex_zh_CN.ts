@@ -625,6 +625,21 @@
     </message>
 </context>
 <context>
+    <name>PastedText</name>
+    <message>
+        <source>The text was not inserted: it has %1 characters, and at most %2 can be inserted at once. Insert it in parts, or divide it into several items.</source>
+        <translation>未插入文本：它有 %1 个字符，而一次最多可插入 %2 个。请分次插入，或将其分到多个文本项。</translation>
+    </message>
+    <message>
+        <source>The text was not inserted: it has %1 lines, and at most %2 can be inserted at once. Insert it in parts, or divide it into several items.</source>
+        <translation>未插入文本：它有 %1 行，而一次最多可插入 %2 行。请分次插入，或将其分到多个文本项。</translation>
+    </message>
+    <message>
+        <source>The text of %1 characters was not inserted, because the document could not be opened again: %2</source>
+        <translation>未插入这段 %1 个字符的文本，因为插入后文档将无法再次打开：%2</translation>
+    </message>
+</context>
+<context>
     <name>PluginLoader</name>
     <message>
         <source>The plug-in with the text editor was not found.</source>
@@ -937,17 +952,13 @@
         <source>This is not a file with a picture; choose a picture file.</source>
         <translation>这不是图片文件；请选择图片文件。</translation>
     </message>
+    <message>
+        <source>The picture file is larger than %1 MB; save it smaller.</source>
+        <translation>图片文件大于 %1 MB；请缩小后保存。</translation>
+    </message>
 </context>
 <context>
     <name>TextEdit</name>
-    <message>
-        <source>Edit as Plain Text</source>
-        <translation>按纯文本编辑</translation>
-    </message>
-    <message>
-        <source>The stored document is replaced by what you see here</source>
-        <translation>存储的文档将被此处所见的内容替换</translation>
-    </message>
     <message>
         <source>Text</source>
         <translation>文本</translation>
@@ -991,6 +1002,10 @@
     <message>
         <source>Please enter the number of columns: </source>
         <translation>请输入列数：</translation>
+    </message>
+    <message>
+        <source>This text could not be opened again as it is now: %1</source>
+        <translation>这段文本目前的状态将无法再次打开：%1</translation>
     </message>
 </context>
 <context>
@@ -1215,6 +1230,21 @@
     <message>
         <source>files and addresses are not loaded; insert the image into the programme</source>
         <translation>不加载文件和网址；请将图片插入节目</translation>
+    </message>
+</context>
+<context>
+    <name>lctrlsex::NoticeStrip</name>
+    <message>
+        <source>Edit as Plain Text</source>
+        <translation>按纯文本编辑</translation>
+    </message>
+    <message>
+        <source>The stored document is replaced by what you see here</source>
+        <translation>存储的文档将被此处所见的内容替换</translation>
+    </message>
+    <message>
+        <source>Close this notice</source>
+        <translation>关闭此通知</translation>
     </message>
 </context>
 <context>

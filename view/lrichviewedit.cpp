@@ -3,9 +3,11 @@
 #include "documentsetup.h"
 #include "itemdocument.h"
 #include "pagelines.h"
+#include "pastedtext.h"
 #include "table/tableground.h"
 
 #include <QAbstractTextDocumentLayout>
+#include <QDropEvent>
 #include <QKeyEvent>
 #include <QMimeData>
 #include <QPaintEvent>
@@ -183,6 +185,46 @@ const QVector<qreal> &LRichViewEdit::pageEdges(qreal until)
     m_pageEdges.append(last.top - last.drawnAt + m_itemSize.height());
     m_edgesUntil = until;
     return m_pageEdges;
+}
+
+void LRichViewEdit::keyPressEvent(QKeyEvent *event)
+{
+    // Of all that keys can type, only the placeholder of an object cannot be stored.
+    if (!event->text().contains(QChar::ObjectReplacementCharacter)) {
+        QTextEdit::keyPressEvent(event);
+    }
+}
+
+void LRichViewEdit::inputMethodEvent(QInputMethodEvent *event)
+{
+    event->setCommitString(lctrlsex::storableText(event->commitString(), m_singleLine),
+                           event->replacementStart(), event->replacementLength());
+    QTextEdit::inputMethodEvent(event);
+}
+
+void LRichViewEdit::dropEvent(QDropEvent *event)
+{
+    QTextCursor moved = textCursor();
+    const bool isMove = event->source() != nullptr && event->dropAction() == Qt::MoveAction &&
+                        (event->source() == this || event->source() == viewport());
+    const int target = cursorForPosition(event->pos()).position();
+    if (isMove && target >= moved.selectionStart() && target <= moved.selectionEnd()) {
+        QDragLeaveEvent leave; // it is there already
+        dragLeaveEvent(&leave);
+        event->ignore();
+        return;
+    }
+    // What is moved leaves its place only when it has been taken at the new one.
+    const int length = document()->characterCount();
+    if (isMove) {
+        event->setDropAction(Qt::CopyAction);
+    }
+    QTextEdit::dropEvent(event);
+    if (isMove && document()->characterCount() != length) {
+        moved.joinPreviousEditBlock();
+        moved.removeSelectedText();
+        moved.endEditBlock();
+    }
 }
 
 bool LRichViewEdit::canInsertFromMimeData(const QMimeData *source) const

@@ -1,9 +1,11 @@
 #include "charformatstyle.h"
+#include "documentstorage.h"
 #include "fontnames.h"
 #include "fragmentmerge.h"
 #include "htmlunits.h"
 #include "literalmerge.h"
 #include "pageposition.h"
+#include "pastedtext.h"
 #include "toolbarformat.h"
 
 #include <QFile>
@@ -48,6 +50,7 @@ class TestEditorCore : public QObject
 private slots:
     void unitsSwapWithoutTouchingNumbers_data();
     void unitsSwapWithoutTouchingNumbers();
+    void everyUnitPastedIsStoredAndShown();
     void pagesAreClamped_data();
     void pagesAreClamped();
     void styleKeySaysWhatShows();
@@ -89,6 +92,23 @@ void TestEditorCore::unitsSwapWithoutTouchingNumbers()
     QCOMPARE(replacePxWithPt(pixels), points);
     QCOMPARE(replacePtWithPx("<meta content=\"1\"   name=\"qrichtext\" />"),
              QString("<meta name=\"qrichtext\" content=\"1\" />"));
+}
+
+void TestEditorCore::everyUnitPastedIsStoredAndShown()
+{
+    for (int row = 0; row < 256; ++row) {
+        QString text;
+        for (int cell = 0; cell < 256; ++cell) {
+            text += QChar(256 * row + cell) + QString("a ");
+        }
+        QTextDocument document;
+        QTextCursor(&document).insertText(pastedText(text, false).text);
+        QTextDocument read;
+        read.setHtml(decodeDocument(encodeDocument(document.toHtml())).html);
+        QCOMPARE(read.toPlainText(), document.toPlainText());
+        read.setHtml(QString::fromUtf8(replacePtWithPx(document.toHtml()).toUtf8()));
+        QCOMPARE(read.toPlainText(), document.toPlainText());
+    }
 }
 
 void TestEditorCore::pagesAreClamped_data()

@@ -4,7 +4,10 @@
 
 #include <QClipboard>
 #include <QColorDialog>
+#include <QDropEvent>
+#include <QElapsedTimer>
 #include <QGuiApplication>
+#include <QLabel>
 #include <QMimeData>
 #include <QTextBlock>
 
@@ -30,6 +33,10 @@ private slots:
     void emptiedDocumentTypesInTheToolBarsLook();
     void pastedTextIsPlainAndWhite_data();
     void pastedTextIsPlainAndWhite();
+    void whatCannotBeKeptIsRefused_data();
+    void whatCannotBeKeptIsRefused();
+    void typedGrowthIsWarnedOf();
+    void typedTextIsWhatIsShown();
     void colourDialogs_data();
     void colourDialogs();
     void aCancelledColourChangesNothing();
@@ -236,6 +243,12 @@ void TestFormatting::pastedTextIsPlainAndWhite_data()
                                 << "a\nb";
     QTest::newRow("single line") << 1 << "a\r\nb"
                                  << "ab";
+    const QString odd = QString("a\t\r\v\f") + QChar(0) + QChar(0x85) + QChar(0x2029) +
+                        QChar(0xfdd0) + QChar(0xfffc) + QChar(0xffff) + QChar(0xd800) + "z";
+    QTest::newRow("odd characters")
+        << 0 << odd << QString::fromUtf8("a\t\n\n\n\n\n\ufffd\ufffd\ufffdz");
+    QTest::newRow("odd characters on a line")
+        << 1 << odd << QString::fromUtf8("a\t\ufffd\ufffd\ufffdz");
     QTest::newRow("markup stays text") << 0 << "<b>&amp;</b>"
                                        << "<b>&amp;</b>";
 }
@@ -257,6 +270,77 @@ void TestFormatting::pastedTextIsPlainAndWhite()
     QCOMPARE(item.formatAt(0).foreground().color(), QColor(Qt::white));
     item.settle();
     QTEST(item.node->GetPlayText(), "expected");
+}
+
+void TestFormatting::whatCannotBeKeptIsRefused_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("reason");
+
+    QTest::newRow("10 MB") << QString("ten chars ").repeated(1024 * 1024) << "10485760 characters";
+    QTest::newRow("lines") << QString("\n").repeated(20000) << "20001 lines";
+    QTest::newRow("one word") << QString("x").repeated(100000) << "Put blanks into long words";
+}
+
+void TestFormatting::whatCannotBeKeptIsRefused()
+{
+    QFETCH(QString, text);
+    QFETCH(QString, reason);
+    EditorFixture item("<p style='color:#ffffff'>old text</p>");
+    item.select(1, 3);
+    const auto *strip = item.editor->findChild<QWidget *>("NoticeStrip");
+    QMimeData data;
+    data.setText(text);
+    const QPoint target = item.view->cursorRect().center();
+    QDragEnterEvent enter(target, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QDropEvent drop(target, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QElapsedTimer timer;
+    timer.start();
+    QCoreApplication::sendEvent(item.view->viewport(), &enter);
+    QCoreApplication::sendEvent(item.view->viewport(), &drop);
+    QVERIFY(timer.elapsed() < 1000);
+    item.settle();
+    QVERIFY(strip->isVisible());
+    const QString said = strip->findChild<QLabel *>("NoticeLabel")->text();
+    QVERIFY2(said.contains(reason), qPrintable(said));
+    QVERIFY(!strip->findChild<QWidget *>("EditAsPlainText")->isVisible());
+    QCOMPARE(item.view->toPlainText(), QString("old text"));
+    QVERIFY(!item.view->document()->isUndoAvailable());
+    item.type("x");
+    QVERIFY(!strip->isVisible());
+    item.call("InsertCopyText", Q_ARG(QString, text));
+    QVERIFY(strip->isVisible());
+    LTextEffectNode other;
+    item.client->Init(&other);
+    QVERIFY(!strip->isVisible());
+    item.client->Finish();
+}
+
+void TestFormatting::typedGrowthIsWarnedOf()
+{
+    EditorFixture item("<p style='color:#ffffff'>text</p>");
+    const auto *strip = item.editor->findChild<QWidget *>("NoticeStrip");
+    item.view->insertPlainText(QString::fromUtf8("\U0001f600").repeated(10000));
+    QTRY_VERIFY(strip->isVisible());
+    item.view->undo();
+    QTRY_VERIFY(!strip->isVisible());
+}
+
+void TestFormatting::typedTextIsWhatIsShown()
+{
+    EditorFixture item("<p style='color:#ffffff'>font-size:1pt</p>");
+    for (const int unit : {0, 1, 9, 0xa0, 0x2028, 0x2029, 0xd800, 0xfdd0, 0xfffc, 0xfffd, 0xffff}) {
+        QTest::sendKeyEvent(QTest::Click, item.view, Qt::Key_unknown, QString(QChar(unit)),
+                            Qt::NoModifier);
+    }
+    QInputMethodEvent composed;
+    composed.setCommitString(QString("i") + QChar(0xfffc) + QChar(0xd800) + QChar(0) + "m");
+    QCoreApplication::sendEvent(item.view, &composed);
+    item.settle();
+    QTextDocument shown;
+    shown.setHtml(item.node->GetHtmlText());
+    QCOMPARE(shown.toPlainText(), item.view->toPlainText());
+    QVERIFY(shown.toPlainText().endsWith(QString::fromUtf8("i\ufffdmfont-size:1pt")));
 }
 
 void TestFormatting::colourDialogs_data()
