@@ -1,5 +1,6 @@
 // What an item stores, it loads, shows and stores again without changing anything any more.
 
+#include "documentexport.h"
 #include "documentstorage.h"
 #include "fragmentmerge.h"
 #include "guiapplication.h"
@@ -22,8 +23,7 @@ struct Stored
     QString text;
 };
 
-/** The text without the empty paragraphs behind a table's cells, which show and are stored never.
- */
+/** The text without the empty paragraphs behind the edges of tables, never shown nor stored. */
 QString textOf(const QTextDocument &document)
 {
     static const QRegularExpression unstored(QStringLiteral("(?<=[\\x{fdd0}\\x{fdd1}])\\x{2029}"));
@@ -44,12 +44,14 @@ Stored storedAgain(const QString &raw)
     pixelsToPoints(&document);
     smartMerge(&document); // runs may differ in what is not written
     const QString html = document.toHtml();
+    const ExportedDocument written = DocumentExport(&document).texts();
     QTextDocument shown;
-    shown.setHtml(QString::fromUtf8(replacePtWithPx(html).toUtf8()));
-    if (textOf(shown) != textOf(document)) {
+    shown.setHtml(written.display);
+    if (written.stored != encodeDocument(html) || written.display != replacePtWithPx(html) ||
+        textOf(shown) != textOf(document)) {
         std::abort();
     }
-    return {encodeDocument(html), textOf(document)};
+    return {written.stored, textOf(document)};
 }
 
 } // namespace

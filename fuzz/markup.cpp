@@ -39,7 +39,6 @@ const char *const characterStyles[] = {"font-family:'DejaVu Sans';",
                                        "text-decoration: line-through;",
                                        "color:#ff0000;",
                                        "background-color:#00ff00;",
-
                                        "white-space:normal;"};
 
 const char *const blockStyles[] = {
