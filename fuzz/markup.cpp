@@ -32,7 +32,7 @@ const char *const pieces[] = {"word",
 
 const char *const characterStyles[] = {"font-family:'DejaVu Sans';",
                                        "font-size:10.5pt;",
-                                       "font-size:16px;",
+                                       "font-size:20px;",
                                        "font-weight:600;",
                                        "font-style:italic;",
                                        "text-decoration: underline;",
