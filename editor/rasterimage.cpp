@@ -120,7 +120,7 @@ RasterImage decodeRaster(const QByteArray &data, qint64 mostBytes)
     if (data.size() > mostBytes) {
         const char *const reason = QT_TRANSLATE_NOOP(
             "RasterImage", "The picture file is larger than %1 MB; save it smaller.");
-        return {QImage(), tr(reason).arg(mostBytes / (1024 * 1024))};
+        return {QImage(), tr(reason).arg(mostBytes / 1024 / 1024)};
     }
     const QByteArray format = formatOf(data);
     if (format.isEmpty()) {

@@ -107,7 +107,7 @@ public slots:
      * What is too long, or would make the document one that cannot be opened again, is refused
      * with a notice and changes nothing.
      */
-    void InsertCopyText(QString text);
+    void InsertCopyText(const QString &text);
     void InsertTable();
     /** Gives the current table the look of @p properties; null is ignored. */
     void ModfTablePropertiesed(LUM_EditInterface::LTableProperties *properties);

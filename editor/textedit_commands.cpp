@@ -221,7 +221,7 @@ void TextEdit::PasteAction()
     m_view->paste(); // comes back as InsertCopyText()
 }
 
-void TextEdit::InsertCopyText(QString text)
+void TextEdit::InsertCopyText(const QString &text)
 {
     if (m_view->isReadOnly()) {
         return;
