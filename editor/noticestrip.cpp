@@ -3,7 +3,6 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
-#include <QStyle>
 #include <QToolButton>
 
 namespace lctrlsex {
@@ -24,7 +23,8 @@ NoticeStrip::NoticeStrip(QWidget *parent)
     m_editAsPlainText->setObjectName(QStringLiteral("EditAsPlainText"));
     m_close->setObjectName(QStringLiteral("CloseNotice"));
     m_close->setAutoRaise(true);
-    m_close->setIcon(style()->standardIcon(QStyle::SP_TitleBarCloseButton));
+    m_close->setText(QString(QChar(0x2715))); // the desktop's own picture is dark on most
+    m_close->setStyleSheet(QStringLiteral("color:white;font-size:16px;"));
     auto *layout = new QHBoxLayout(this);
     layout->addWidget(m_label, 1);
     layout->addWidget(m_editAsPlainText);
