@@ -74,21 +74,19 @@ bool mayChange(const QTextFragment &fragment)
 }
 
 /** What to change in @p block, collected first: a change joins fragments under an iterator. */
-QVector<Change> colorChanges(const QTextBlock &block, ColorConversion conversion,
-                             const StopFlag &stop)
+QVector<ColorChange> colorChanges(const QTextBlock &block, ColorConversion conversion,
+                                  const StopFlag &stop)
 {
-    QVector<Change> changes;
+    QVector<ColorChange> changes;
     for (auto it = block.begin(); !it.atEnd() && !stop; ++it) {
         const QTextFragment fragment = it.fragment();
-        if (!mayChange(fragment)) {
-            continue;
+        if (!mayChange(fragment) || fragment.charFormat().isImageFormat()) {
+            continue; // HTML keeps no colour of an image
         }
         const QColor before = fragment.charFormat().foreground().color();
         const QColor after = converted(before, conversion);
         if (after != before) {
-            QTextCharFormat addition;
-            addition.setForeground(after);
-            changes.append({fragment.position(), fragment.length(), addition});
+            changes.append({fragment.position(), fragment.length(), after});
         }
     }
     return changes;
@@ -101,26 +99,35 @@ void apply(QTextCursor *cursor, const Change &change)
     cursor->mergeCharFormat(change.addition);
 }
 
-/** False when it was stopped on the way. */
-bool convertBlocks(QTextDocument *document, ColorConversion conversion, const StopFlag &stop,
-                   const ProgressReport &report)
+void apply(QTextCursor *cursor, const ColorChange &change)
 {
+    QTextCharFormat addition;
+    addition.setForeground(change.color);
+    apply(cursor, {change.position, change.length, addition});
+}
+
+/** What was changed; not all when it was stopped on the way. */
+QVector<ColorChange> convertBlocks(QTextDocument *document, ColorConversion conversion,
+                                   const StopFlag &stop, const ProgressReport &report)
+{
+    QVector<ColorChange> all;
     const qint64 count = document->blockCount();
     qint64 done = 0;
     QTextCursor cursor(document);
     cursor.beginEditBlock();
     for (QTextBlock block = document->begin(); block.isValid() && !stop; block = block.next()) {
-        const QVector<Change> changes = colorChanges(block, conversion, stop);
+        const QVector<ColorChange> changes = colorChanges(block, conversion, stop);
         for (auto change = changes.begin(); change != changes.end() && !stop; ++change) {
             apply(&cursor, *change);
         }
+        all += changes;
         ++done;
         if (report && !stop) {
             report(int(done * 100 / count));
         }
     }
     cursor.endEditBlock();
-    return !stop;
+    return all;
 }
 
 QVector<Change> antialiasingChanges(const QTextDocument &document)
@@ -150,8 +157,8 @@ QPaintDevice *deviceOf(const QTextDocument &document)
 
 } // namespace
 
-std::optional<QString> convertColors(const QString &html, ColorConversion conversion,
-                                     const StopFlag &stop, const ProgressReport &report)
+std::optional<ConvertedColors> convertColors(const QString &html, ColorConversion conversion,
+                                             const StopFlag &stop, const ProgressReport &report)
 {
     const GuardedHtml guarded = guardHtml(html);
     if (!guarded.accepted) {
@@ -165,10 +172,36 @@ std::optional<QString> convertColors(const QString &html, ColorConversion conver
     document.setDefaultStyleSheet(QStringLiteral("a { text-decoration: none; }")); // as in the view
     document.setDefaultFont(bodyFont(guarded.html));
     document.setHtml(guarded.html);
-    if (!convertBlocks(&document, conversion, stop, report)) {
+    const QVector<ColorChange> changes = convertBlocks(&document, conversion, stop, report);
+    if (stop) {
         return std::nullopt;
     }
-    return document.toHtml();
+    return ConvertedColors{document.toHtml(), document.toPlainText(), changes};
+}
+
+bool applyColors(QTextDocument *document, const ConvertedColors &converted)
+{
+    if (document->toPlainText() != converted.text) {
+        return false;
+    }
+    if (converted.changes.isEmpty()) {
+        return true; // an empty edit block would announce a change
+    }
+    QTextCursor cursor(document);
+    cursor.beginEditBlock();
+    for (const ColorChange &change : converted.changes) {
+        apply(&cursor, change);
+    }
+    cursor.endEditBlock();
+    return true;
+}
+
+std::unique_ptr<QTextDocument> detachedCopy(const QTextDocument &document)
+{
+    std::unique_ptr<QTextDocument> copy(document.clone());
+    copy->setUndoRedoEnabled(false);
+    copy->setDefaultFont(ownFont(document.defaultFont()));
+    return copy;
 }
 
 void removeAntialiasing(QTextDocument *document)

@@ -1,10 +1,13 @@
 #pragma once
 
+#include <QColor>
 #include <QSize>
 #include <QString>
+#include <QVector>
 
 #include <atomic>
 #include <functional>
+#include <memory>
 #include <optional>
 
 class QTextDocument;
@@ -24,6 +27,22 @@ static_assert(StopFlag::is_always_lock_free);
 /** Told how far a conversion is, in percent of the document's blocks. */
 using ProgressReport = std::function<void(int percent)>;
 
+/** A stretch of a document's text and the colour that it gets. */
+struct ColorChange
+{
+    int position;
+    int length;
+    QColor color;
+};
+
+/** What became of a document's text colours. */
+struct ConvertedColors
+{
+    QString html;
+    QString text;                 ///< As QTextDocument::toPlainText() gives it.
+    QVector<ColorChange> changes; ///< In the order of the text; none of an image.
+};
+
 /**
  * The document @p html with its text colours converted; text without a colour counts as black. All
  * else stays as it is: Qt's own HTML of which no colour changes comes back the same.
@@ -33,9 +52,20 @@ using ProgressReport = std::function<void(int percent)>;
  * be empty; it is called after each block, rising to 100. Nothing is loaded from outside. Any
  * thread may call it while a GUI application exists.
  */
-[[nodiscard]] std::optional<QString> convertColors(const QString &html, ColorConversion conversion,
-                                                   const StopFlag &stop,
-                                                   const ProgressReport &report);
+[[nodiscard]] std::optional<ConvertedColors> convertColors(const QString &html,
+                                                           ColorConversion conversion,
+                                                           const StopFlag &stop,
+                                                           const ProgressReport &report);
+
+/**
+ * Gives the text of @p document the colours that changed in a conversion of its HTML, in one undo
+ * step; all that HTML does not carry stays. Without a change nothing is announced. False, and
+ * nothing is done, when the document does not hold the text that was converted.
+ */
+[[nodiscard]] bool applyColors(QTextDocument *document, const ConvertedColors &converted);
+
+/** A copy of @p document that another thread may have: the two share no font. */
+[[nodiscard]] std::unique_ptr<QTextDocument> detachedCopy(const QTextDocument &document);
 
 /**
  * Gives all text of @p document fonts without antialiasing, in one undo step; HTML does not carry

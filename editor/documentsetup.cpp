@@ -31,12 +31,20 @@ QImage *pointDevice()
     return &device;
 }
 
+void antialias(QFont *font, bool on)
+{
+    if (isAntialiased(*font) != on) {
+        font->setStyleStrategy(on ? QFont::PreferDefault : QFont::NoAntialias);
+    }
+}
+
 QFont defaultFont(const QTextDocument &document, const TextSettings &settings)
 {
     QFont font = document.defaultFont();
     if (!settings.fontFamily.isEmpty()) {
         font.setFamily(settings.fontFamily);
     }
+    antialias(&font, settings.antialias);
     return font;
 }
 
@@ -106,7 +114,8 @@ void changeFormats(QTextDocument *document, bool (*change)(QTextCharFormat *))
 bool TextSettings::operator==(const TextSettings &other) const
 {
     return fontFamily == other.fontFamily && fontSize == other.fontSize &&
-           fontSpace == other.fontSpace && singleLine == other.singleLine;
+           fontSpace == other.fontSpace && singleLine == other.singleLine &&
+           antialias == other.antialias;
 }
 
 qreal letterSpacing(int value)
@@ -129,6 +138,18 @@ void applyLetterSpacing(QTextDocument *document, const TextSettings &settings)
     QTextCursor cursor(document);
     cursor.select(QTextCursor::Document);
     cursor.mergeCharFormat(format);
+}
+
+bool isAntialiased(const QFont &font)
+{
+    return (font.styleStrategy() & QFont::NoAntialias) == 0;
+}
+
+void setAntialiasing(QTextDocument *document, bool on)
+{
+    QFont font = document->defaultFont();
+    antialias(&font, on);
+    document->setDefaultFont(font);
 }
 
 void prepareView(QTextDocument *document, const TextSettings &settings)

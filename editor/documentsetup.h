@@ -2,6 +2,7 @@
 
 #include <QString>
 
+class QFont;
 class QTextCharFormat;
 class QTextDocument;
 
@@ -14,6 +15,7 @@ struct TextSettings
     int fontSize = 16;  ///< In points, for text without a size of its own; 1 to 1000.
     int fontSpace = 0;  ///< The word-spacing control's number, see letterSpacing().
     bool singleLine = false;
+    bool antialias = true; ///< Whether letters have soft edges.
 
     bool operator==(const TextSettings &other) const;
     bool operator!=(const TextSettings &other) const { return !(*this == other); }
@@ -30,6 +32,15 @@ struct TextSettings
  * nothing in single-line mode, as the control does nothing there.
  */
 void applyLetterSpacing(QTextDocument *document, const TextSettings &settings);
+
+/** Whether text in @p font has letters with soft edges. */
+[[nodiscard]] bool isAntialiased(const QFont &font);
+
+/**
+ * Gives all text of @p document, also what is typed later, letters with soft edges or without, by
+ * the default font; what can be undone stays so.
+ */
+void setAntialiasing(QTextDocument *document, bool on);
 
 /**
  * Makes @p document, whose font sizes stay in points, lay a point out as a pixel: for the document

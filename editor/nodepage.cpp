@@ -16,6 +16,7 @@ TextSettings textSettingsOf(const LTextEffectNode *item)
         settings.fontFamily = nodeCall(node, &LTextEffectNode::GetFontFamily);
         settings.fontSize = nodeCall(node, &LTextEffectNode::GetFontSize);
         settings.fontSpace = nodeCall(node, &LTextEffectNode::GetFontSpace);
+        settings.antialias = nodeCall(node, &LTextEffectNode::GetTextAntialias);
         settings.singleLine = nodeCall(node, &LTextEffectNode::GetSingleMode) == 1;
     }
     return settings;

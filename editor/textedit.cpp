@@ -4,6 +4,7 @@
 #include "fieldvalues.h"
 #include "fontnames.h"
 #include "formatcommands.h"
+#include "itemconversion.h"
 #include "lappconfig.h"
 #include "lrichviewedit.h"
 #include "ltexteffectnode.h"
@@ -35,6 +36,7 @@ TextEdit::TextEdit(QWidget *parent)
     , m_table(new lctrlsex::TableCommands(m_view))
     , m_binding(new lctrlsex::BindingMenus)
     , m_fields(new lctrlsex::FieldValues)
+    , m_conversion(new lctrlsex::ItemConversion(m_view))
 {
     m_view->setObjectName(QStringLiteral("RichView"));
     m_view->installEventFilter(this);
@@ -190,6 +192,7 @@ void TextEdit::CreateConnect()
             SLOT(ONFieldNameChanged(QAction *)));
     connect(m_binding.get(), SIGNAL(stylePicked(QAction *)), this,
             SLOT(ONConditionStyleChanged(QAction *)));
+    connect(m_conversion.get(), &lctrlsex::ItemConversion::ended, this, &TextEdit::conversionEnded);
 }
 
 void TextEdit::Translate()

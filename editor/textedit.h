@@ -22,6 +22,7 @@ class BindingMenus;
 class EditToolBar;
 class FieldValues;
 class FormatCommands;
+class ItemConversion;
 class NodePublisher;
 class NoticeStrip;
 class TableCommands;
@@ -68,6 +69,9 @@ public:
 
     /** Whether the document holds a table. */
     [[nodiscard]] bool hasTable() const;
+
+    /** Whether ConvertText() would do something now: there is a text, and it can be edited. */
+    [[nodiscard]] Q_INVOKABLE bool CanConvertText() const;
 
     // What the client learns of data; each rebuilds the menu that shows it
 
@@ -135,6 +139,16 @@ public slots:
     /** Line height of the cursor's paragraphs in percent, at least 100; nothing in single-line
      * mode. */
     void TextLineSpacingChanged(int value);
+
+    // The whole text converted
+
+    /**
+     * Does what @p type as TextOperatType says: new text colours, as one undo step; or no
+     * antialiasing for the item, and again with it when it is without. Works in the background,
+     * with a window in which the user can cancel it when it takes long; the text cannot be edited
+     * until then. Any other value does nothing.
+     */
+    void ConvertText(int type);
 
     /** Pushes the document to the node when it changed since the last push. */
     void TextDrawImage();
@@ -218,6 +232,8 @@ private:
     void copyTableSettings();
     void showGround();
     void redraw();
+    void conversionEnded(int type, int outcome);
+    void setAntialias(bool on);
     void rebuildTypingFormat();
     void restoreTypingFormat();
     [[nodiscard]] QColor askColor(const QString &title, const QColor &current);
@@ -244,4 +260,5 @@ private:
     int m_refusedRevision = -1; ///< Of the document when something was refused.
     QTimer m_mergeTimer;
     QTimer m_growthTimer;
+    std::unique_ptr<lctrlsex::ItemConversion> m_conversion;
 };

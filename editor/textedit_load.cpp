@@ -2,6 +2,7 @@
 #include "edittoolbar.h"
 #include "formatcommands.h"
 #include "fragmentmerge.h"
+#include "itemconversion.h"
 #include "lappconfig.h"
 #include "lrichviewedit.h"
 #include "ltexteffectnode.h"
@@ -31,6 +32,7 @@ void TextEdit::Init(LTextEffectNode *node)
     }
     m_node = wanted;
     ++m_attachment;
+    m_conversion->stop();
     m_mergeTimer.stop();
     m_publisher->attach(wanted);
     if (m_node.isNull()) {
@@ -84,6 +86,7 @@ void TextEdit::flush()
 void TextEdit::letGo()
 {
     m_mergeTimer.stop();
+    m_conversion->stop();
     m_publisher->attach(nullptr);
     m_view->load(QString(), lctrlsex::TextSettings());
     showNotice(QString());

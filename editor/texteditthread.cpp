@@ -1,7 +1,5 @@
 #include "texteditthread.h"
 
-#include "documentconversion.h"
-
 #include <QTextDocument>
 
 using lctrlsex::ColorConversion;
@@ -46,6 +44,11 @@ QString TextEditThread::GetText() const
     return m_text;
 }
 
+std::optional<lctrlsex::ConvertedColors> TextEditThread::converted() const
+{
+    return m_converted;
+}
+
 QSize TextEditThread::GetSize() const
 {
     return m_size;
@@ -59,6 +62,7 @@ bool TextEditThread::IsQuit() const
 void TextEditThread::ThreadStart()
 {
     m_quit = false;
+    m_converted.reset();
     start();
 }
 
@@ -88,10 +92,9 @@ void TextEditThread::convertText(ColorConversion conversion)
     const auto report = [this](int percent) {
         emit emitProcessValue(percent);
     };
-    const std::optional<QString> result =
-        lctrlsex::convertColors(m_text, conversion, m_quit, report);
-    if (result) {
-        m_text = *result;
+    m_converted = lctrlsex::convertColors(m_text, conversion, m_quit, report);
+    if (m_converted) {
+        m_text = m_converted->html;
     }
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "documentconversion.h"
 #include "lctrlsexexport.h"
 
 #include <QPointer>
@@ -8,12 +9,7 @@
 #include <QThread>
 
 #include <atomic>
-
-class QTextDocument;
-
-namespace lctrlsex {
-enum class ColorConversion;
-}
+#include <optional>
 
 /** What a TextEditThread does; the values are fixed. */
 enum TextOperatType : int {
@@ -53,6 +49,8 @@ public:
 
     /** The HTML with its colours changed; the one that was set when the thread was stopped. */
     [[nodiscard]] QString GetText() const;
+    /** What a colour operation did; none when it was stopped or the text was refused. */
+    [[nodiscard]] std::optional<lctrlsex::ConvertedColors> converted() const;
     /**
      * What DocAntialias measured, in pixels: the width of all text as if it stood on one line, and
      * the height of its largest font. 0 x 0 at first.
@@ -87,6 +85,7 @@ private:
     void OnDocAntialias();
 
     QString m_text;
+    std::optional<lctrlsex::ConvertedColors> m_converted;
     TextOperatType m_type = ColorFlip;
     std::atomic<bool> m_quit{true};
     bool m_measureOnly = false;

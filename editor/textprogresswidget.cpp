@@ -54,6 +54,11 @@ void TextProgressWidget::SetCloseSymbol(bool ask)
     }
 }
 
+void TextProgressWidget::SetBusy(bool busy)
+{
+    m_bar->setRange(0, busy ? 0 : 100);
+}
+
 void TextProgressWidget::SetProgressVaule(int value)
 {
     m_bar->setValue(value);

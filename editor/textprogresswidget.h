@@ -27,6 +27,9 @@ public:
      */
     void SetCloseSymbol(bool ask);
 
+    /** Whether it shows that something goes on instead of how far it is; false at first. */
+    void SetBusy(bool busy);
+
 public slots:
     /** Shows @p value percent; one outside 0 to 100 is ignored. The name is kept so. */
     void SetProgressVaule(int value);

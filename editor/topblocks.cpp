@@ -96,6 +96,7 @@ void TopBlocks::copySettings(QTextDocument *target) const
     const QFont font = m_source->defaultFont();
     TextSettings settings;
     settings.fontSize = font.pointSize() > 0 ? font.pointSize() : font.pixelSize();
+    settings.antialias = isAntialiased(font);
     target->setUndoRedoEnabled(false);
     target->setDefaultFont(font);
     target->setDefaultTextOption(m_source->defaultTextOption());

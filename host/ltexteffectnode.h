@@ -194,6 +194,10 @@ public:
     [[nodiscard]] int GetFontSpace() const;
     void SetFontSpace(int value);
 
+    /** Whether letters have soft edges, of colours between text and ground. Default true. */
+    [[nodiscard]] bool GetTextAntialias() const;
+    void SetTextAntialias(bool value);
+
     /** Background of the item as a packed colour. Default 0, black. */
     [[nodiscard]] int GetEditBgColor() const;
     void SetEditBgColor(int value);

@@ -764,6 +764,10 @@
         <source>Edit text</source>
         <translation>编辑文本</translation>
     </message>
+    <message>
+        <source>Change antialiasing</source>
+        <translation>更改抗锯齿</translation>
+    </message>
 </context>
 <context>
     <name>ProgrammeFile</name>
@@ -1006,6 +1010,14 @@
     <message>
         <source>This text could not be opened again as it is now: %1</source>
         <translation>这段文本目前的状态将无法再次打开：%1</translation>
+    </message>
+    <message>
+        <source>The text was not converted: %1 %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The text was not converted because it was changed meanwhile. Try again.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1679,6 +1691,22 @@ Free software under the MIT licence.</source>
     <message>
         <source>save one of the two under another name</source>
         <translation>请将其中一个另存为其他名称</translation>
+    </message>
+    <message>
+        <source>&amp;Text</source>
+        <translation>文本(&amp;T)</translation>
+    </message>
+    <message>
+        <source>&amp;Invert Colours</source>
+        <translation>反转颜色(&amp;I)</translation>
+    </message>
+    <message>
+        <source>&amp;Swap Black and White</source>
+        <translation>黑白互换(&amp;S)</translation>
+    </message>
+    <message>
+        <source>&amp;Antialiasing Off</source>
+        <translation>关闭抗锯齿(&amp;A)</translation>
     </message>
 </context>
 <context>

@@ -1,5 +1,7 @@
 #include "fieldimages.h"
 
+#include "documentsetup.h"
+
 #include <QFontMetrics>
 #include <QPainter>
 #include <QTextBlock>
@@ -43,13 +45,16 @@ QString oneLine(const QString &text)
     return line;
 }
 
-QFont fontOf(const TypingStyle &style)
+QFont fontOf(const TypingStyle &style, bool antialias)
 {
     QFont font(style.family);
     font.setPixelSize(qMin(style.effectiveSize(), LargestFontSize));
     font.setItalic(style.italic);
     font.setUnderline(style.underline);
     font.setWeight(style.bold ? QFont::Bold : QFont::Normal);
+    if (!antialias) {
+        font.setStyleStrategy(QFont::NoAntialias);
+    }
     return font;
 }
 
@@ -69,10 +74,10 @@ QSize lineSize(const QString &line, const QFontMetrics &metrics, bool isUnderlin
 
 } // namespace
 
-QImage drawField(const QString &text, const FieldStyle &style, bool isDimmed)
+QImage drawField(const QString &text, const FieldStyle &style, bool isDimmed, bool antialias)
 {
     const QString line = oneLine(text);
-    const QFont font = fontOf(style.text);
+    const QFont font = fontOf(style.text, antialias);
     const QFontMetrics metrics(font);
     QImage image(lineSize(line, metrics, style.text.underline),
                  QImage::Format_ARGB32_Premultiplied);
@@ -129,14 +134,16 @@ QVector<FieldImages::Found> FieldImages::removed(const QTextDocument &document) 
 }
 
 QHash<QString, FieldImages::Drawn> FieldImages::wanted(const QVector<Found> &fields,
-                                                       const QMap<QString, QString> &values)
+                                                       const QMap<QString, QString> &values,
+                                                       bool antialias)
 {
     QHash<QString, Drawn> result;
     for (const Found &field : fields) {
         const QString key = fieldKey(field.name);
         const QString value = values.value(key, values.value(fieldName(key)));
         const bool isMissing = value.isEmpty();
-        result.insert(field.name, {isMissing ? fieldName(key) : value, field.style, isMissing, 0});
+        result.insert(field.name,
+                      {isMissing ? fieldName(key) : value, field.style, isMissing, antialias, 0});
     }
     return result;
 }
@@ -146,7 +153,8 @@ bool FieldImages::isCurrent(const QTextDocument &document, const QString &name,
 {
     const auto before = m_drawn.constFind(name);
     if (before == m_drawn.constEnd() || before->text != field.text ||
-        before->style != field.style || before->isDimmed != field.isDimmed) {
+        before->style != field.style || before->isDimmed != field.isDimmed ||
+        before->antialias != field.antialias) {
         return false;
     }
     return holds(document, name, *before);
@@ -167,7 +175,8 @@ QSet<QString> FieldImages::draw(QTextDocument *document, QHash<QString, Drawn> f
             it->imageKey = m_drawn.value(it.key()).imageKey;
             continue;
         }
-        const QImage image = drawField(it->text, FieldStyle::fromString(it->style), it->isDimmed);
+        const QImage image =
+            drawField(it->text, FieldStyle::fromString(it->style), it->isDimmed, it->antialias);
         document->addResource(QTextDocument::ImageResource, QUrl(it.key()), image);
         it->imageKey = image.cacheKey();
         changed.insert(it.key());
@@ -203,7 +212,9 @@ bool FieldImages::refresh(QTextDocument *document, const QMap<QString, QString> 
         return false;
     }
     const QVector<Found> fields = fieldsOf(*document);
-    const QSet<QString> changed = draw(document, wanted(removed(*document) + fields, values));
+    const bool antialias = isAntialiased(document->defaultFont());
+    const QSet<QString> changed =
+        draw(document, wanted(removed(*document) + fields, values, antialias));
     markDirty(document, fields, changed);
     return !changed.isEmpty();
 }

@@ -17,7 +17,8 @@ namespace lctrlsex {
  * A field's text on a transparent ground: one line, at most 1000 characters, the letters as many
  * pixels high as @p style has points. An @p isDimmed text shows that a value is missing.
  */
-[[nodiscard]] QImage drawField(const QString &text, const FieldStyle &style, bool isDimmed);
+[[nodiscard]] QImage drawField(const QString &text, const FieldStyle &style, bool isDimmed,
+                               bool antialias = true);
 
 /** Keeps the images of one document's fields up to date. */
 class FieldImages
@@ -40,6 +41,7 @@ private:
         QString text;
         QString style;
         bool isDimmed = false;
+        bool antialias = true;
         qint64 imageKey = 0;
     };
     struct Found;
@@ -48,7 +50,7 @@ private:
     [[nodiscard]] QVector<Found> removed(const QTextDocument &document) const;
     static bool holds(const QTextDocument &document, const QString &name, const Drawn &drawn);
     static QHash<QString, Drawn> wanted(const QVector<Found> &fields,
-                                        const QMap<QString, QString> &values);
+                                        const QMap<QString, QString> &values, bool antialias);
     static void markDirty(QTextDocument *document, const QVector<Found> &fields,
                           const QSet<QString> &changed);
     bool isCurrent(const QTextDocument &document, const QString &name, const Drawn &field) const;

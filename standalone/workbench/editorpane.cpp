@@ -213,6 +213,31 @@ void EditorPane::focusText()
     }
 }
 
+/** The plug-in's widget around the view, if it is one that converts texts. */
+QObject *EditorPane::converter() const
+{
+    QObject *object = m_node ? textView() : nullptr;
+    while (object != nullptr && object->metaObject()->indexOfSlot("ConvertText(int)") < 0) {
+        object = object->parent();
+    }
+    return object;
+}
+
+bool EditorPane::canConvertText() const
+{
+    bool can = false;
+    QObject *const object = converter();
+    return object != nullptr &&
+           QMetaObject::invokeMethod(object, "CanConvertText", Q_RETURN_ARG(bool, can)) && can;
+}
+
+void EditorPane::convertText(Conversion conversion)
+{
+    if (QObject *const object = converter()) {
+        QMetaObject::invokeMethod(object, "ConvertText", Q_ARG(int, conversion));
+    }
+}
+
 bool EditorPane::eventFilter(QObject *watched, QEvent *event)
 {
     if (event->type() == QEvent::ShortcutOverride || event->type() == QEvent::KeyPress) {

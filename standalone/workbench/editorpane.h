@@ -47,6 +47,13 @@ public:
     [[nodiscard]] QTextEdit *textView() const;
     void focusText();
 
+    /** What the plug-in can do with a whole text, as it counts it. */
+    enum Conversion { InvertColors, SwapBlackAndWhite, ToggleAntialiasing };
+    /** Whether there is a text that convertText() would work on now. */
+    [[nodiscard]] bool canConvertText() const;
+    /** Begins a conversion of the bound item's text; nothing happens where it is not possible. */
+    void convertText(Conversion conversion);
+
 signals:
     /** The user asked for an item where there is none. */
     void addItemWanted();
@@ -63,6 +70,7 @@ private:
     void letGo();
     void showAttributes();
     void giveBack();
+    [[nodiscard]] QObject *converter() const;
     void retranslate();
 
     ProgrammeDocument *m_document;

@@ -105,6 +105,7 @@ void MainWindow::connectDocument()
 {
     connect(m_document, &ProgrammeDocument::modifiedChanged, this, &QWidget::setWindowModified);
     connect(m_document, &ProgrammeDocument::fileNameChanged, this, &MainWindow::updateTitle);
+    connect(m_document, &ProgrammeDocument::contentsChanged, this, &MainWindow::updateTextActions);
     connect(m_document, &ProgrammeDocument::aboutToReplace, this, &MainWindow::letGoOfNodes);
     connect(m_document, &ProgrammeDocument::replaced, this, [this] {
         updateTitle();

@@ -39,8 +39,9 @@ class WallPanel;
  * The workbench's window: the programme's tree, the editor of the current item with its
  * properties, and the wall.
  *
- * Bodies are in a file a topic: mainwindow (life), mainwindow_actions (menus), mainwindow_view,
- * mainwindow_files, mainwindow_recovery, mainwindow_docks and mainwindow_selection.
+ * Bodies are in a file a topic: mainwindow (life), mainwindow_actions (menus), mainwindow_text,
+ * mainwindow_view, mainwindow_files, mainwindow_recovery, mainwindow_docks and
+ * mainwindow_selection.
  */
 class MainWindow : public QMainWindow
 {
@@ -84,6 +85,7 @@ private:
     void buildMenus();
     void buildFileMenu();
     void buildEditMenu();
+    void buildTextMenu();
     void buildViewMenu();
     void buildPaletteMenu();
     void buildLanguageMenu();
@@ -94,6 +96,7 @@ private:
     void retranslateActions();
     void updateHistoryActions();
     void updateClipboardActions();
+    void updateTextActions();
     void fillRecentMenu();
     void forwardToFocus(const char *slot);
     void choosePalette(PaletteChoice choice);
@@ -169,6 +172,8 @@ private:
     QAction *m_cut = nullptr;
     QAction *m_copy = nullptr;
     QAction *m_paste = nullptr;
+    QVector<QAction *> m_conversions;
+    QAction *m_antialiasingOff = nullptr; ///< One of them.
     QAction *m_ledGrid = nullptr;
     QMenu *m_recentMenu = nullptr;
     QActionGroup *m_palettes = nullptr;

@@ -32,6 +32,7 @@ void MainWindow::buildMenus()
 {
     buildFileMenu();
     buildEditMenu();
+    buildTextMenu();
     buildViewMenu();
     auto *help = nameMenu(menuBar()->addMenu(QString()), QStringLiteral("HelpMenu"),
                           [] { return tr("&Help"); });

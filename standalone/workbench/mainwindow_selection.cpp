@@ -60,6 +60,7 @@ void MainWindow::onNodeSelected(LNode *node)
     m_wall->setCurrent(m_programme->currentNode(), item);
     m_layout->setNode(m_programme->currentNode());
     updateStatus();
+    updateTextActions();
 }
 
 void MainWindow::letGoOfNodes()

@@ -1,6 +1,9 @@
 #include "documentconversion.h"
+#include "documentstorage.h"
 #include "lappconfig.h"
+#include "ltexteffectnode.h"
 #include "modalanswerer.h"
+#include "textedit.h"
 #include "texteditthread.h"
 #include "textprogresswidget.h"
 
@@ -83,6 +86,7 @@ class ConversionTest : public QObject
 private slots:
     void colors_data();
     void colors();
+    void appliesColors();
     void keepsTheRest_data();
     void keepsTheRest();
     void refusedDocumentStays();
@@ -92,7 +96,7 @@ private slots:
     void reportsProgressAndQuit();
     void stopsAtAnyFragment();
     void startAndQuitManyTimes();
-    void survivesTheEditor();
+    void editorsAndItemsComeAndGo();
 
     void dialogLooks();
     void dialogCloses_data();
@@ -143,6 +147,33 @@ void ConversionTest::colors()
     QCOMPARE(colored(convertedByThread(html, ColorFlip)), "text" + flipped);
     QCOMPARE(colored(convertedByThread(html, BlackWhiteFlip)), "text" + swapped);
     QCOMPARE(convertedByThread(html, TextOperatType(3)), html);
+}
+
+void ConversionTest::appliesColors()
+{
+    QTextDocument document;
+    document.setHtml("<p>a<font color='#0a64fe'>b</font><a href='x'>c</a><img src='d'></p>");
+    QTextCharFormat outlined;
+    outlined.setTextOutline(QPen(Qt::red));
+    QTextCursor cursor(&document);
+    cursor.setPosition(2, QTextCursor::KeepAnchor);
+    cursor.mergeCharFormat(outlined);
+    document.clearUndoRedoStacks();
+    QSignalSpy changes(&document, &QTextDocument::contentsChanged);
+    const StopFlag stop(false);
+    const auto flipped = convertColors(document.toHtml(), ColorConversion::Flip, stop, {});
+    QVERIFY(flipped.has_value());
+
+    QVERIFY(applyColors(&document, *flipped));
+    QCOMPARE(colored(document.toHtml()), QString("a#ffffffff b#fff59b01 c#ffffff00 d"));
+    QCOMPARE(firstFormat(document).textOutline().color(), QColor(Qt::red));
+    QCOMPARE(changes.count(), 1);
+    QVERIFY(applyColors(&document, {QString(), document.toPlainText(), {}}));
+    QCOMPARE(changes.count(), 1);
+    document.undo();
+    QVERIFY(!document.isUndoAvailable());
+    cursor.insertText("e");
+    QVERIFY(!applyColors(&document, *flipped));
 }
 
 void ConversionTest::keepsTheRest_data()
@@ -314,24 +345,50 @@ void ConversionTest::startAndQuitManyTimes()
     QVERIFY2(stopped > 0 && stopped < 500, qPrintable(QString::number(stopped)));
 }
 
-void ConversionTest::survivesTheEditor()
+/** Items in editors, each stopped in another way at another moment, or let run to its end. */
+void ConversionTest::editorsAndItemsComeAndGo()
 {
-    QString html = paragraphs(500);
-    for (int round = 0; round < 10; ++round) {
-        auto editor = std::make_unique<QTextEdit>();
-        auto *thread = new TextEditThread(editor.get());
-        auto *dialog = new TextProgressWidget(editor.get());
-        const QPointer<QThread> gone(thread);
-        connect(thread, &TextEditThread::emitProcessValue, dialog,
-                &TextProgressWidget::SetProgressVaule);
-        dialog->show();
-        thread->SetText(html);
-        thread->ThreadStart();
-        QTest::qWait(round * 2);
-        editor.reset();
-        QVERIFY(gone.isNull());
+    const QString stored = encodeDocument(paragraphs(60));
+    const int rounds = qEnvironmentVariableIsSet("LCTRLSEX_THOROUGH") ? 5000 : 200;
+    std::mt19937 random(5);
+    std::unique_ptr<TextEdit> editor;
+    std::unique_ptr<LTextEffectNode> node;
+    int converted = 0;
+    for (int round = 0; round < rounds; ++round) {
+        if (editor == nullptr) {
+            editor = std::make_unique<TextEdit>();
+        }
+        if (node == nullptr || node->GetRawHtmlText() != stored || !node->GetTextAntialias()) {
+            node = std::make_unique<LTextEffectNode>();
+            node->SetSize({64, 32});
+            node->SetHtmlText(QString());
+            node->SetRawHtmlText(stored);
+        }
+        editor->Init(node.get());
+        editor->ConvertText(int(random() % 3U));
+        QVERIFY(!editor->CanConvertText());
+        QTest::qWait(int(random() % 12U));
+        switch (random() % 6U) {
+        case 0:
+            editor.reset();
+            break;
+        case 1:
+            node.reset();
+            break;
+        case 2:
+            editor->Init(nullptr);
+            break;
+        case 3:
+            QTRY_VERIFY(editor->CanConvertText());
+            QTest::qWait(1);
+            QVERIFY(node->GetRawHtmlText() != stored || !node->GetTextAntialias());
+            ++converted;
+            break;
+        default:
+            break;
+        }
     }
-    QCoreApplication::processEvents();
+    QVERIFY(converted > 0 && converted < rounds);
 }
 
 void ConversionTest::dialogLooks()

@@ -111,6 +111,7 @@ void TestEditorNode::slotsAndSignalsArePromised_data()
         "CopyAction()",
         "PasteAction()",
         "UpdateBindKeys()",
+        "ConvertText(int)",
         "performSmartMerge()"};
     for (const QByteArray &signature : promised) {
         QTest::newRow(signature) << signature;

@@ -20,6 +20,17 @@ private slots:
     void pagesFollowTheNode();
 };
 
+static int colorsOf(const QImage &image)
+{
+    QSet<QRgb> colors;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            colors.insert(image.pixel(x, y));
+        }
+    }
+    return colors.size();
+}
+
 void TestOneRenderer::editedPageIsThePlayedPage()
 {
     const ReadProgramme read =
@@ -29,6 +40,7 @@ void TestOneRenderer::editedPageIsThePlayedPage()
     for (const player::ProgrammeItem &item : player::programmeItems(read.controller.get())) {
         for (const int fontSpace : {0, 3}) {
             item.node->SetFontSpace(fontSpace);
+            item.node->SetTextAntialias(fontSpace == 0);
             player::ItemRenderer played(item.node, item.place);
             if (played.pageCount() != 1) {
                 continue; // further pages come from the player alone
@@ -61,6 +73,9 @@ void TestOneRenderer::pagesFollowTheNode()
     };
     const QImage plain = page();
     QCOMPARE(plain.pixel(63, 31), qRgb(0, 0, 0));
+    QVERIFY(colorsOf(plain) > 2);
+    node.SetTextAntialias(false);
+    QCOMPARE(colorsOf(page()), 2);
     node.SetEditBgColor(255 * 65536);
     QCOMPARE(page().pixel(63, 31), qRgb(0, 0, 255));
     node.SetTransBgColor(true);

@@ -29,6 +29,8 @@ private slots:
     void looksWithoutTouching();
     void undoesAcrossItems();
     void showsOnTheWallWhatIsEdited();
+    void convertsAsOneStep_data();
+    void convertsAsOneStep();
 
 private:
     QTextEdit *view() const { return m_window->centralWidget()->findChild<QTextEdit *>(); }
@@ -133,6 +135,53 @@ void TestWorkbench::showsOnTheWallWhatIsEdited()
     const QImage later = wall->scene().items.at(0).page;
     QCOMPARE(later.convertToFormat(QImage::Format_ARGB32),
              atOnce.convertToFormat(QImage::Format_ARGB32));
+}
+
+void TestWorkbench::convertsAsOneStep_data()
+{
+    QTest::addColumn<QString>("command");
+    QTest::addColumn<QString>("step");
+    QTest::newRow("invert") << "InvertColours"
+                            << "Edit text";
+    QTest::newRow("swap") << "SwapBlackAndWhite"
+                          << "Edit text";
+    QTest::newRow("antialiasing") << "AntialiasingOff"
+                                  << "Change antialiasing";
+}
+
+void TestWorkbench::convertsAsOneStep()
+{
+    QFETCH(QString, command);
+    QFETCH(QString, step);
+    auto *action = m_window->findChild<QAction *>(command);
+    const auto *off = m_window->findChild<QAction *>("AntialiasingOff");
+    m_window->selectNode(items().at(0).node);
+    QTest::qWait(80);
+    const QByteArray before = document()->contents();
+    action->trigger();
+    QVERIFY(!action->isEnabled());
+    QTRY_COMPARE(document()->history()->count(), 1);
+    QTest::qWait(80);
+    QCOMPARE(document()->history()->count(), 1);
+    QCOMPARE(document()->history()->undoText(), step);
+    QVERIFY(action->isEnabled());
+    QCOMPARE(off->isChecked(), action == off);
+    const QByteArray after = document()->contents();
+    document()->undo();
+    QTest::qWait(80);
+    QCOMPARE(document()->contents(), before);
+    QVERIFY(action->isEnabled() && !off->isChecked());
+    document()->redo();
+    QTest::qWait(80);
+    QCOMPARE(document()->contents(), after);
+    QCOMPARE(off->isChecked(), action == off);
+    if (action == off) { // on again
+        action->trigger();
+        QTest::qWait(80);
+        QVERIFY(items().at(0).node->GetTextAntialias() && !off->isChecked());
+    }
+    QVERIFY(document()->remove(items().at(0).node->GetScreenNode()));
+    QVERIFY(!action->isEnabled());
 }
 
 int main(int argc, char **argv)

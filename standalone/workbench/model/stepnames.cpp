@@ -19,6 +19,7 @@ constexpr Group s_groups[] = {
     {"UseStroke", QT_TRANSLATE_NOOP("ProgrammeDocument", "Change stroke")},
     {"StrokeColor", QT_TRANSLATE_NOOP("ProgrammeDocument", "Change stroke")},
     {"UseHollow", QT_TRANSLATE_NOOP("ProgrammeDocument", "Change hollow text")},
+    {"TextAntialias", QT_TRANSLATE_NOOP("ProgrammeDocument", "Change antialiasing")},
     {"EditBgColor", QT_TRANSLATE_NOOP("ProgrammeDocument", "Change background")},
     {"TransBgColor", QT_TRANSLATE_NOOP("ProgrammeDocument", "Change background")},
     {"ContentAlign", QT_TRANSLATE_NOOP("ProgrammeDocument", "Change alignment")},
