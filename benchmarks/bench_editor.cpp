@@ -15,31 +15,11 @@ namespace {
 
 constexpr QSize ItemSize(384, 128);
 
-/** Rich text of about @p characters whose look changes every @p words * 23 of them. */
-QString richText(int characters, int words)
-{
-    QString html = QStringLiteral("<html><body>");
-    for (int written = 0, run = 0; written < characters; ++run) {
-        if (run % 3 == 0) {
-            html += QStringLiteral("<p>");
-        }
-        const QString color = run % 2 == 0 ? QStringLiteral("#ffffff") : QStringLiteral("#ffb000");
-        html += QStringLiteral("<span style=\"font-family:'DejaVu Sans'; font-size:%1pt; color:%2; "
-                               "font-weight:%3\">%4</span>")
-                    .arg(14 + run % 3)
-                    .arg(color)
-                    .arg(run % 3 == 1 ? 600 : 400)
-                    .arg(QStringLiteral("Departures platform 12 ").repeated(words));
-        written += 23 * words;
-    }
-    return html + QStringLiteral("</body></html>");
-}
-
 /** An editor with a document, and a bare view of the same. */
 struct Pair
 {
     explicit Pair(int characters, int words = 1)
-        : html(normalized(richText(characters, words)))
+        : html(normalized(floors::richText(characters, words)))
     {
         node.SetSize(ItemSize);
         node.SetHtmlText(QString());

@@ -69,6 +69,26 @@ inline QImage pageImage(const QSize &size, Fill fill, const QColor &ground = Qt:
     return image;
 }
 
+/** Rich text of about \a characters whose look changes every \a words * 23 of them. */
+inline QString richText(int characters, int words)
+{
+    QString html = QStringLiteral("<html><body>");
+    for (int written = 0, run = 0; written < characters; ++run) {
+        if (run % 3 == 0) {
+            html += QStringLiteral("<p>");
+        }
+        const QString color = run % 2 == 0 ? QStringLiteral("#ffffff") : QStringLiteral("#ffb000");
+        html += QStringLiteral("<span style=\"font-family:'DejaVu Sans'; font-size:%1pt; color:%2; "
+                               "font-weight:%3\">%4</span>")
+                    .arg(14 + run % 3)
+                    .arg(color)
+                    .arg(run % 3 == 1 ? 600 : 400)
+                    .arg(QStringLiteral("Departures platform 12 ").repeated(words));
+        written += 23 * words;
+    }
+    return html + QStringLiteral("</body></html>");
+}
+
 /** The middle of \a values, which must not be empty. */
 inline double median(std::vector<double> values)
 {
@@ -93,12 +113,13 @@ double secondsOf(const Work &work)
 }
 
 /**
- * Measures \a work beside its floors, in turns, so that a noisy moment hits all of them alike.
- * The benchmark must use manual time. Counters: per floor NAME its median time "NAME_us" and
- * "x_NAME", the median time of the work over that of the floor.
+ * Measures beside floors, in turns, so that a noisy moment hits all of them alike: \a measure gives
+ * the seconds of one round. The benchmark must use manual time. Counters: "median_us", and per
+ * floor NAME its median time "NAME_us" and "x_NAME", the median over that of the floor.
  */
-template <class Work>
-void besideFloors(benchmark::State &state, const Work &work, const std::vector<Floor> &others)
+template <class Measure>
+void measureBesideFloors(benchmark::State &state, const Measure &measure,
+                         const std::vector<Floor> &others)
 {
     std::vector<double> times;
     std::vector<std::vector<double>> floorTimes(others.size());
@@ -107,7 +128,7 @@ void besideFloors(benchmark::State &state, const Work &work, const std::vector<F
         for (size_t i = 0; i < others.size(); ++i) {
             floorTimes[i].push_back(secondsOf(others[i].second));
         }
-        times.push_back(secondsOf(work));
+        times.push_back(measure());
         state.SetIterationTime(times.back());
     }
     const double time = median(times);
@@ -117,6 +138,14 @@ void besideFloors(benchmark::State &state, const Work &work, const std::vector<F
         state.counters[others[i].first + "_us"] = floor * 1e6;
         state.counters["x_" + others[i].first] = time / floor;
     }
+}
+
+/** Measures the time of \a work, as measureBesideFloors() does. */
+template <class Work>
+void besideFloors(benchmark::State &state, const Work &work, const std::vector<Floor> &others)
+{
+    measureBesideFloors(
+        state, [&work] { return secondsOf(work); }, others);
 }
 
 /** The body of every benchmark's main(): a program without a screen. */

@@ -41,14 +41,9 @@ void ItemConversion::start(TextOperatType type)
     m_revision = m_view->document()->revision();
     m_thread = new TextEditThread(this);
     m_thread->SetTpye(type);
-    if (type == DocAntialias) {
-        QTextDocument *const copy = detachedCopy(*m_view->document()).release();
-        copy->setParent(m_thread); // which may outlive the conversion
-        m_thread->SetDocument(copy);
-    } else {
-        QString html = m_view->toHtml();
-        m_thread->SetText(html);
-    }
+    QTextDocument *const copy = detachedCopy(*m_view->document()).release();
+    copy->setParent(m_thread); // which may outlive the conversion
+    m_thread->SetDocument(copy);
     const int run = ++m_run;
     connect(m_thread, &QThread::finished, this, [this, run] {
         if (isRunning() && run == m_run) {
@@ -64,7 +59,7 @@ void ItemConversion::showProgress()
     m_progress = new TextProgressWidget(m_view.isNull() ? nullptr : m_view->window());
     m_progress->SetAllowClose(true);
     m_progress->SetCloseSymbol(true);
-    m_progress->SetBusy(m_type == DocAntialias); // which does not tell how far it is
+    m_progress->SetBusy(true); // until it says how far it is
     connect(m_thread, &TextEditThread::emitProcessValue, m_progress.data(),
             &TextProgressWidget::SetProgressVaule, Qt::QueuedConnection);
     connect(m_progress.data(), &TextProgressWidget::CancleOperat, this, &ItemConversion::cancel);

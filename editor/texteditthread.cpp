@@ -92,7 +92,9 @@ void TextEditThread::convertText(ColorConversion conversion)
     const auto report = [this](int percent) {
         emit emitProcessValue(percent);
     };
-    m_converted = lctrlsex::convertColors(m_text, conversion, m_quit, report);
+    QTextDocument *document = m_document;
+    const QString html = m_text.isEmpty() && document != nullptr ? document->toHtml() : m_text;
+    m_converted = lctrlsex::convertColors(html, conversion, m_quit, report);
     if (m_converted) {
         m_text = m_converted->html;
     }

@@ -39,9 +39,10 @@ public:
     /** Sets the HTML that the two colour operations read. */
     void SetText(QString &text);
     /**
-     * Sets the document that DocAntialias works on; the thread does not own it. From ThreadStart()
-     * to finished() nobody else may read, change, draw or delete it: hand over a copy of a document
-     * that is shown. Without one, or when it was deleted before the start, nothing happens.
+     * Sets the document that DocAntialias works on, and that a colour operation without a text
+     * takes its HTML from; the thread does not own it. From ThreadStart() to finished() nobody else
+     * may read, change, draw or delete it: hand over a copy of a document that is shown. Without
+     * one, or when it was deleted before the start, nothing happens.
      */
     void SetDocument(QTextDocument *document);
     /** Makes DocAntialias measure only and change nothing. */

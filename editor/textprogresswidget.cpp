@@ -61,6 +61,7 @@ void TextProgressWidget::SetBusy(bool busy)
 
 void TextProgressWidget::SetProgressVaule(int value)
 {
+    SetBusy(false);
     m_bar->setValue(value);
 }
 

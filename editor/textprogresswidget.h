@@ -27,7 +27,7 @@ public:
      */
     void SetCloseSymbol(bool ask);
 
-    /** Whether it shows that something goes on instead of how far it is; false at first. */
+    /** Whether it shows, until a value comes, only that something goes on; false at first. */
     void SetBusy(bool busy);
 
 public slots:

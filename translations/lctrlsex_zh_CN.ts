@@ -1013,11 +1013,11 @@
     </message>
     <message>
         <source>The text was not converted: %1 %2</source>
-        <translation type="unfinished"></translation>
+        <translation>文本未转换：%1 %2</translation>
     </message>
     <message>
         <source>The text was not converted because it was changed meanwhile. Try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>文本未转换，因为其间文本已被更改。请重试。</translation>
     </message>
 </context>
 <context>
