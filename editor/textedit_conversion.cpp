@@ -1,12 +1,12 @@
 #include "documentsetup.h"
 #include "edittoolbar.h"
-#include "htmlguard.h"
 #include "itemconversion.h"
 #include "lrichviewedit.h"
 #include "ltexteffectnode.h"
 #include "nodecall.h"
 #include "nodepublisher.h"
 #include "noticestrip.h"
+#include "pastedtext.h"
 #include "textedit.h"
 
 using lctrlsex::ItemConversion;
@@ -39,8 +39,8 @@ void TextEdit::conversionEnded(int type, int outcome)
     const int attachment = m_attachment;
     setUsable(true);
     if (outcome == ItemConversion::Refused) {
-        const lctrlsex::GuardedHtml guarded = lctrlsex::guardHtml(m_view->toHtml());
-        showRefusal(tr("The text was not converted: %1 %2").arg(guarded.reason, guarded.remedy));
+        const QString problem = lctrlsex::reopeningProblem(*m_view->document());
+        showRefusal(tr("The text was not converted: %1").arg(problem));
     } else if (outcome == ItemConversion::Edited) {
         showRefusal(tr("The text was not converted because it was changed meanwhile. Try again."));
     } else if (outcome == ItemConversion::Done && type == DocAntialias) {

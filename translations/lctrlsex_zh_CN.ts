@@ -1012,8 +1012,8 @@
         <translation>这段文本目前的状态将无法再次打开：%1</translation>
     </message>
     <message>
-        <source>The text was not converted: %1 %2</source>
-        <translation>文本未转换：%1 %2</translation>
+        <source>The text was not converted: %1</source>
+        <translation>文本未转换：%1</translation>
     </message>
     <message>
         <source>The text was not converted because it was changed meanwhile. Try again.</source>
