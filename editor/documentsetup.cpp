@@ -35,6 +35,8 @@ void antialias(QFont *font, bool on)
 {
     if (isAntialiased(*font) != on) {
         font->setStyleStrategy(on ? QFont::PreferDefault : QFont::NoAntialias);
+        // Without soft edges letters stand on whole pixels, and so must the gaps between them.
+        font->setHintingPreference(on ? QFont::PreferDefaultHinting : QFont::PreferFullHinting);
     }
 }
 
