@@ -1,5 +1,8 @@
 #include "formatcommands.h"
 
+#include "formatdifference.h"
+#include "keyedit.h"
+
 #include <QTextBlock>
 #include <QTextCursor>
 #include <QTextDocument>
@@ -52,7 +55,10 @@ void FormatCommands::mergeOnWordOrSelection(const QTextCharFormat &format)
     if (m_view == nullptr) {
         return;
     }
-    wordOrSelection().mergeCharFormat(format);
+    QTextCursor cursor = wordOrSelection();
+    if (isNewTo(cursor, format)) {
+        cursor.mergeCharFormat(format);
+    }
     if (m_view != nullptr && !m_view->textCursor().hasSelection()) {
         m_view->mergeCurrentCharFormat(format); // a selection has it already: no second undo step
     }
@@ -83,10 +89,36 @@ void FormatCommands::insertText(const QString &text, const TypingStyle &style)
         return;
     }
     QTextCursor cursor = m_view->textCursor();
+    cursor.beginEditBlock(); // a merge can join no other step
     cursor.insertText(text, style.toFormat());
+    cursor.endEditBlock();
     m_view->setTextCursor(cursor);
     m_view->ensureCursorVisible();
     m_view->setFocus();
+}
+
+bool FormatCommands::editByKey(const KeyEdit &edit, int lineHeight)
+{
+    if (m_view == nullptr) {
+        return false;
+    }
+    QTextCursor cursor = m_view->textCursor();
+    QTextBlockFormat format;
+    format.setLineHeight(lineHeight, QTextBlockFormat::ProportionalHeight);
+    const bool isHeightNew =
+        lineHeight > 0 && cursor.block().length() == 1 && isNewTo(cursor, format);
+    if (!isHeightNew && !edit.leavesLookAlikes(cursor)) {
+        return false;
+    }
+    cursor.beginEditBlock();
+    if (isHeightNew) {
+        cursor.mergeBlockFormat(format);
+    }
+    edit.apply(&cursor);
+    cursor.endEditBlock();
+    m_view->setTextCursor(cursor);
+    m_view->ensureCursorVisible();
+    return true;
 }
 
 void FormatCommands::clearBackground()
@@ -116,7 +148,12 @@ void FormatCommands::clearBackground()
 
 void FormatCommands::setAlignment(Qt::Alignment align)
 {
-    if (m_view != nullptr) {
+    if (m_view == nullptr) {
+        return;
+    }
+    QTextBlockFormat format;
+    format.setAlignment(align);
+    if (isNewTo(m_view->textCursor(), format)) {
         m_view->setAlignment(align);
     }
 }
@@ -129,10 +166,10 @@ void FormatCommands::setLetterSpacing(qreal spacing)
     QTextCharFormat format;
     format.setFontLetterSpacingType(QFont::AbsoluteSpacing);
     format.setFontLetterSpacing(spacing);
-    if (!m_view->document()->isEmpty()) {
-        // One merge over the whole: a change for each fragment would lay out as often.
-        QTextCursor cursor(m_view->document());
-        cursor.select(QTextCursor::Document);
+    // One merge over the whole: a change for each fragment would lay out as often.
+    QTextCursor cursor(m_view->document());
+    cursor.select(QTextCursor::Document);
+    if (isNewTo(cursor, format)) {
         cursor.mergeCharFormat(format);
     }
     if (m_view != nullptr && !m_view->textCursor().hasSelection()) {
@@ -146,9 +183,9 @@ void FormatCommands::setLineHeight(int percent)
         return;
     }
     QTextCursor cursor = m_view->textCursor();
-    if (cursor.blockFormat().isBlockFormat()) {
-        QTextBlockFormat format;
-        format.setLineHeight(percent, QTextBlockFormat::ProportionalHeight);
+    QTextBlockFormat format;
+    format.setLineHeight(percent, QTextBlockFormat::ProportionalHeight);
+    if (isNewTo(cursor, format)) {
         cursor.mergeBlockFormat(format);
     }
 }

@@ -7,9 +7,11 @@
 
 namespace lctrlsex {
 
+struct KeyEdit;
+
 /**
- * What the tool bar does to the document of a view. Each command is one undo step; nothing happens
- * when the view is gone.
+ * What the tool bar does to the document of a view. Each command is one undo step in an edit block,
+ * or none when the document has it already; nothing happens when the view is gone.
  */
 class FormatCommands
 {
@@ -28,6 +30,13 @@ public:
 
     /** Inserts @p text as plain text in @p style. */
     void insertText(const QString &text, const TypingStyle &style);
+
+    /**
+     * Makes the edit of a key when something else belongs to its step: in an empty paragraph a line
+     * height in percent, unless @p lineHeight is 0, or a merge that is to follow. Else false, and
+     * the key does it.
+     */
+    bool editByKey(const KeyEdit &edit, int lineHeight);
 
     /** Takes the background from the selection, or the word under the cursor. */
     void clearBackground();

@@ -4,7 +4,9 @@
 #include "fieldvalues.h"
 #include "fontnames.h"
 #include "formatcommands.h"
+#include "fragmentmerge.h"
 #include "itemconversion.h"
+#include "keyedit.h"
 #include "lappconfig.h"
 #include "lrichviewedit.h"
 #include "ltexteffectnode.h"
@@ -33,9 +35,11 @@ TextEdit::TextEdit(QWidget *parent)
     , m_view(new LRichViewEdit(this))
     , m_format(new lctrlsex::FormatCommands(m_view))
     , m_publisher(new lctrlsex::NodePublisher(m_view))
+    , m_merger(new lctrlsex::FragmentMerger(m_view->document()))
     , m_table(new lctrlsex::TableCommands(m_view))
     , m_binding(new lctrlsex::BindingMenus)
     , m_fields(new lctrlsex::FieldValues)
+    , m_mergeTimer(this)
     , m_conversion(new lctrlsex::ItemConversion(m_view))
 {
     m_view->setObjectName(QStringLiteral("RichView"));
@@ -45,6 +49,7 @@ TextEdit::TextEdit(QWidget *parent)
     m_dataToolBar = new QToolBar(this);
     m_dataToolBar->setObjectName(QStringLiteral("DataToolBar"));
     m_toolBar = std::make_unique<lctrlsex::EditToolBar>(toolBar, m_dataToolBar, this);
+    m_mergeTimer.setObjectName(QStringLiteral("MergeTimer"));
     m_mergeTimer.setSingleShot(true);
     m_mergeTimer.setInterval(MergeDelay);
     connect(&m_mergeTimer, SIGNAL(timeout()), this, SLOT(performSmartMerge()));
@@ -235,15 +240,31 @@ bool TextEdit::eventFilter(QObject *watched, QEvent *event)
     if (watched != m_view || event->type() != QEvent::KeyPress || m_view->isReadOnly()) {
         return QWidget::eventFilter(watched, event);
     }
-    const int key = static_cast<QKeyEvent *>(event)->key();
-    if (m_singleLine && (key == Qt::Key_Return || key == Qt::Key_Enter)) {
+    const auto &key = *static_cast<QKeyEvent *>(event);
+    if (m_singleLine && (key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter)) {
         return true;
     }
     const QTextCursor cursor = m_view->textCursor();
-    if (!cursor.hasSelection() && lctrlsex::isInvisible(cursor.charFormat())) {
+    if (cursor.hasSelection()) {
+        return QWidget::eventFilter(watched, event);
+    }
+    const bool isInvisible = lctrlsex::isInvisible(cursor.charFormat());
+    if (isInvisible) {
         rebuildTypingFormat();
     }
-    return QWidget::eventFilter(watched, event);
+    return editByKey(key, isInvisible) || QWidget::eventFilter(watched, event);
+}
+
+/** Makes the edit of @p key where more than that edit belongs to its undo step; else false. */
+bool TextEdit::editByKey(const QKeyEvent &key, bool isLookNew)
+{
+    const lctrlsex::KeyEdit edit = lctrlsex::keyEditOf(key, m_view->textCursor());
+    if (edit.isNone()) {
+        return false;
+    }
+    m_merger->merge(); // what a selection held up belongs to a step before this one
+    const bool setsHeight = isLookNew && !m_singleLine && !edit.text.isEmpty();
+    return m_format->editByKey(edit, setsHeight ? m_toolBar->lineSpacing() : 0);
 }
 
 void TextEdit::showEvent(QShowEvent *event)

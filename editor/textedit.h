@@ -14,6 +14,7 @@
 
 class LTextEffectNode;
 class QAction;
+class QKeyEvent;
 class QToolBar;
 class LRichViewEdit;
 
@@ -22,6 +23,7 @@ class BindingMenus;
 class EditToolBar;
 class FieldValues;
 class FormatCommands;
+class FragmentMerger;
 class ItemConversion;
 class NodePublisher;
 class NoticeStrip;
@@ -235,6 +237,7 @@ private:
     void conversionEnded(int type, int outcome);
     void setAntialias(bool on);
     void rebuildTypingFormat();
+    bool editByKey(const QKeyEvent &key, bool isLookNew);
     void restoreTypingFormat();
     [[nodiscard]] QColor askColor(const QString &title, const QColor &current);
     /** Whether the node taken when the count was @p attachment is still there and attached. */
@@ -247,6 +250,7 @@ private:
     std::unique_ptr<lctrlsex::EditToolBar> m_toolBar;
     std::unique_ptr<lctrlsex::FormatCommands> m_format;
     std::unique_ptr<lctrlsex::NodePublisher> m_publisher;
+    std::unique_ptr<lctrlsex::FragmentMerger> m_merger;
     std::unique_ptr<lctrlsex::TableCommands> m_table;
     std::unique_ptr<lctrlsex::BindingMenus> m_binding;
     std::unique_ptr<lctrlsex::FieldValues> m_fields;

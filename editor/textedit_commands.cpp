@@ -11,13 +11,11 @@
 #include "textedit.h"
 
 #include <QComboBox>
-#include <QTextBlock>
 
 using lctrlsex::nodeCall;
 
 namespace {
 
-constexpr int LeastLineSpacing = 100;
 constexpr int MostWordSpacing = 99;
 constexpr int AsGoodAsTyped = 100; // characters; what they make too long is noticed as typing is
 
@@ -263,9 +261,6 @@ void TextEdit::rebuildTypingFormat()
     const int value = m_toolBar->wordSpacing();
     const int spacing = value < 0 ? value / 8 : isWordSpacing(value) ? value : 0;
     m_format->setTypingFormat(style, spacing);
-    if (m_view->textCursor().block().length() == 1) { // a paragraph with text keeps its height
-        m_format->setLineHeight(qMax(LeastLineSpacing, m_toolBar->lineSpacing()));
-    }
 }
 
 /** After a change left an invisible format behind: the tool bar's look in the current colour. */

@@ -66,6 +66,8 @@ void TextEdit::Init(LTextEffectNode *node)
             CursorPositionFontStatusMarked();
         }
         m_view->document()->clearUndoRedoStacks();
+        m_view->document()->setModified(true); // or a step that is gone would count as the stored
+        m_publisher->takeAsStored();
         m_view->setFocus();
         emit DocumentHasTable(hasTable());
     }
@@ -216,7 +218,7 @@ void TextEdit::performSmartMerge()
         m_view->isReadOnly()) {
         return; // with something to redo, a merge would throw it away
     }
-    lctrlsex::smartMerge(m_view->document());
+    m_merger->merge();
 }
 
 /** Draws the pages again after a change of the node that the document does not show. */

@@ -1,6 +1,7 @@
 #include "lrichviewedit.h"
 
 #include "documentsetup.h"
+#include "fragmentmerge.h"
 #include "itemdocument.h"
 #include "pagelines.h"
 #include "pastedtext.h"
@@ -63,6 +64,7 @@ void LRichViewEdit::load(const QString &html, const lctrlsex::TextSettings &sett
     lctrlsex::pixelsToPoints(m_document);
     setTextCursor(QTextCursor(m_document)); // one that has the format of the text
     lctrlsex::applyLetterSpacing(m_document, settings);
+    lctrlsex::smartMerge(m_document); // here it is no step of the user's
     m_document->clearUndoRedoStacks();
 }
 

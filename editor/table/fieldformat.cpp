@@ -109,7 +109,9 @@ QTextImageFormat fieldFormat(const QString &qualifiedKey, const TypingStyle &sty
 
 void insertField(QTextCursor &cursor, const QString &qualifiedKey, const TypingStyle &style)
 {
+    cursor.beginEditBlock(); // a merge can join no other step
     cursor.insertImage(fieldFormat(qualifiedKey, style));
+    cursor.endEditBlock();
     cursor.setCharFormat(style.toFormat());
 }
 

@@ -58,6 +58,8 @@ private slots:
     void lookAlikes();
     void mergeEqualsTheLiteralProcedure();
     void mergeWithoutWorkIsSilent();
+    void mergerFindsWhatAScanFinds();
+    void mergerMakesNoStep();
     void fontsNeedFamilyAndFile();
     void formatAtTheCursor();
 };
@@ -221,6 +223,63 @@ void TestEditorCore::mergeWithoutWorkIsSilent()
     connect(&document, &QTextDocument::contentsChanged, this, [&changes] { ++changes; });
     QVERIFY(!smartMerge(&document));
     QCOMPARE(changes, 0);
+}
+
+void TestEditorCore::mergerFindsWhatAScanFinds()
+{
+    for (quint32 seed = 1; seed <= 40; ++seed) {
+        QRandomGenerator random(seed);
+        QTextDocument document;
+        FragmentMerger merger(&document);
+        QTextCursor cursor(&document);
+        for (int i = 0; i < 100; ++i) {
+            const auto place = [&] {
+                return random.bounded(document.characterCount());
+            };
+            cursor.setPosition(place());
+            if (random.bounded(5) > 1) {
+                const QString text = random.bounded(6) == 0 ? "a\nb" : "xy";
+                cursor.insertText(text, randomFormat(&random));
+            } else if (random.bounded(3) == 0) {
+                document.undo();
+            } else {
+                cursor.setPosition(qMin(cursor.position() + 5, place()), QTextCursor::KeepAnchor);
+                random.bounded(2) ? cursor.setCharFormat(randomFormat(&random))
+                                  : cursor.removeSelectedText();
+            }
+            if (random.bounded(3) == 0) {
+                merger.merge();
+                QVERIFY2(!smartMerge(&document), qPrintable(QString::number(seed)));
+            }
+        }
+    }
+}
+
+void TestEditorCore::mergerMakesNoStep()
+{
+    QTextDocument document;
+    FragmentMerger merger(&document);
+    QTextCharFormat tip;
+    tip.setToolTip("x");
+    QTextCursor cursor(&document);
+    const auto insertAlike = [&cursor, &tip] {
+        cursor.beginEditBlock();
+        cursor.insertText("one ", QTextCharFormat());
+        cursor.insertText("two ", tip);
+        cursor.endEditBlock();
+    };
+    insertAlike();
+    document.clearUndoRedoStacks();
+    document.setModified(false);
+    QVERIFY(merger.merge());
+    QVERIFY(!document.isUndoAvailable() && !document.isModified());
+    const QString merged = document.toHtml();
+    insertAlike();
+    QVERIFY(merger.merge());
+    QVERIFY(!merger.merge());
+    document.undo();
+    QCOMPARE(document.toHtml(), merged);
+    QVERIFY(!document.isUndoAvailable());
 }
 
 void TestEditorCore::fontsNeedFamilyAndFile()

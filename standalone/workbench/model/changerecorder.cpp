@@ -96,8 +96,9 @@ void ChangeRecorder::attach(LTextEffectNode *node, QTextEdit *view)
     m_view = view;
     ++m_session;
     const QTextDocument *const document = view->document();
-    m_commandAdded = connect(document, &QTextDocument::undoCommandAdded, this, [this] {
-        if (!isStepping()) {
+    m_commandAdded = connect(document, &QTextDocument::undoCommandAdded, this, [this, document] {
+        // Editors say so when they add to their last step, which Qt announces like a new one.
+        if (!isStepping() && !document->property("joinsLastStep").toBool()) {
             ++m_commands;
         }
     });
