@@ -72,7 +72,10 @@ public:
             m_item->key(Qt::Key_Delete);
             break;
         case 9:
-            m_item->key(Qt::Key_Return);
+            // Over the end of a paragraph, Return would leave what is there.
+            if (m_item->view->textCursor().selectedText() != QChar(QChar::ParagraphSeparator)) {
+                m_item->key(Qt::Key_Return);
+            }
             break;
         case 10:
             m_item->call("InsertCopyText", Q_ARG(QString, text()));
