@@ -113,6 +113,11 @@ void TestEditorHistory::typingAndCommands()
     settle();
     QCOMPARE(m_document->history()->count(), steps + 1);
     QCOMPARE(m_document->history()->undoText(), QStringLiteral("Change stroke"));
+    for (int i = 1; i <= 2; ++i) { // to bold and back, which leaves a run to merge
+        trigger(QStringLiteral("actionTextBold"));
+        settle();
+        QCOMPARE(m_document->history()->count(), steps + 1 + i);
+    }
     const QByteArray end = m_document->contents();
     while (m_document->history()->canUndo()) {
         m_document->undo();
