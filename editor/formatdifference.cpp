@@ -47,7 +47,8 @@ bool isNewTo(const QTextBlock &block, int from, int to, const QTextCharFormat &f
         const QTextFragment fragment = it.fragment();
         const QTextCharFormat old = fragment.charFormat();
         if (fragment.position() < to && fragment.position() + fragment.length() > from &&
-            !old.isImageFormat() && isNewTo(old, format)) {
+            (!old.isImageFormat() || format.hasProperty(QTextFormat::BackgroundBrush)) &&
+            isNewTo(old, format)) {
             return true;
         }
     }

@@ -19,7 +19,9 @@ QString visible(const QTextEdit *view)
     };
     for (QTextBlock block = copy->begin(); block.isValid(); block = block.next()) {
         for (auto it = block.begin(); !it.atEnd(); ++it) {
-            add(it.fragment().charFormat());
+            const QTextCharFormat format = it.fragment().charFormat();
+            add(format);
+            look += format.isImageFormat() ? format.background().color().name() : QString();
         }
     }
     // Nothing of an empty cell, and a copy has nothing of an empty first paragraph.
@@ -139,7 +141,7 @@ private:
     QString text()
     {
         static const QStringList texts{QStringLiteral("%1"), QStringLiteral("%1\nlines"),
-                                       QStringLiteral("\r\n"), QStringLiteral("%1 words ")};
+                                       QStringLiteral("\r\n%1"), QStringLiteral("%1 words ")};
         QString text = texts.at(m_random.bounded(texts.size()));
         return text.replace("%1", QString::number(++m_count));
     }
