@@ -6,9 +6,6 @@
 #include "programmedocument.h"
 #include "programmeitems.h"
 
-#include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
 #include <QRandomGenerator>
 #include <QUndoStack>
 #include <QtTest>
@@ -232,46 +229,20 @@ void TestTextHistory::openedAndClosedIsNotModified()
 void TestTextHistory::randomStepsComeBack_data()
 {
     QTest::addColumn<quint32>("seed");
-    QTest::addColumn<bool>("isNormalised");
     for (quint32 seed = 1; seed <= 12; ++seed) {
-        QTest::addRow("exact %u", seed) << seed << false;
-        QTest::addRow("normalised on load %u", seed) << seed << true;
+        QTest::addRow("%u", seed) << seed;
     }
-}
-
-/** The programme but for what an editor may write in another way. */
-static QByteArray withoutMarkup(const QByteArray &programme)
-{
-    static const QStringList markup{QStringLiteral("RawHtml"), QStringLiteral("Html"),
-                                    QStringLiteral("TableRowPlaceHolder"),
-                                    QStringLiteral("TableBindKey"), QStringLiteral("document")};
-    const std::function<QJsonValue(const QJsonValue &)> strip = [&](const QJsonValue &value) {
-        QJsonObject object = value.toObject();
-        QJsonArray array = value.toArray();
-        for (const QString &key : markup) {
-            object.remove(key);
-        }
-        for (auto it = object.begin(); it != object.end(); ++it) {
-            *it = strip(*it);
-        }
-        for (auto it = array.begin(); it != array.end(); ++it) {
-            *it = strip(*it);
-        }
-        return value.isObject() ? QJsonValue(object) : value.isArray() ? QJsonValue(array) : value;
-    };
-    return QJsonDocument(strip(QJsonDocument::fromJson(programme).object()).toObject()).toJson();
 }
 
 void TestTextHistory::randomStepsComeBack()
 {
     QFETCH(quint32, seed);
-    QFETCH(bool, isNormalised);
     QRandomGenerator random(seed);
     ProgrammeDocument document;
     BoundEditor editor(&document);
-    editor.pushesLoaded = isNormalised;
+    editor.pushesLoaded = false; // or loading would write what reads the same
     const auto contents = [&] {
-        return isNormalised ? withoutMarkup(document.contents()) : document.contents();
+        return document.contents();
     };
     if (seed % 2) {
         QVERIFY(!document.open(QStringLiteral(LCTRLSEX_SOURCE_DIR "/examples/demo.programme.json"))

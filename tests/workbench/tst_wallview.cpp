@@ -16,9 +16,7 @@ class TestWallView : public QObject
 private slots:
     void fits_data();
     void fits();
-    void mapsPixels_data();
     void mapsPixels();
-    void paintsEachPixel_data();
     void paintsEachPixel();
     void paintsDots();
     void paintsSmall();
@@ -84,38 +82,20 @@ void TestWallView::fits()
     QTEST(scale.divisor, "divisor");
 }
 
-void TestWallView::mapsPixels_data()
-{
-    QTest::addColumn<int>("factor");
-    QTest::addColumn<int>("divisor");
-    QTest::newRow("1") << 1 << 1;
-    QTest::newRow("3") << 3 << 1;
-    QTest::newRow("16") << 16 << 1;
-}
-
 void TestWallView::mapsPixels()
 {
-    QFETCH(int, factor);
-    QFETCH(int, divisor);
-    const WallScale scale{factor, divisor};
-    for (int x = -40; x < 40; ++x) {
-        const QPoint pixel = scale.pixelAt(QPoint(x, 0));
-        QVERIFY2(scale.scaled(QRect(pixel, QSize(1, 1))).contains(x, 0),
-                 qPrintable(QString::number(x)));
+    for (const int factor : {1, 3, 16}) {
+        const WallScale scale{factor, 1};
+        for (int x = -40; x < 40; ++x) {
+            const QRect pixel(scale.pixelAt(QPoint(x, 0)), QSize(1, 1));
+            QVERIFY2(scale.scaled(pixel).contains(x, 0), qPrintable(QString::number(x)));
+        }
     }
-}
-
-void TestWallView::paintsEachPixel_data()
-{
-    QTest::addColumn<int>("factor");
-    QTest::newRow("1x") << 1;
-    QTest::newRow("3x") << 3;
-    QTest::newRow("7x") << 7;
 }
 
 void TestWallView::paintsEachPixel()
 {
-    QFETCH(int, factor);
+    const int factor = 3;
     const QImage image = painted(scene(), {factor, 1}, false);
     const QImage below = picture(QSize(8, 5));
     const QImage above = picture(QSize(6, 4));
