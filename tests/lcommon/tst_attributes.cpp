@@ -66,7 +66,6 @@ private slots:
     void accessor();
     void keysAreUnique();
     void everySetterOfTheHeadersIsDefined();
-    void fixedKeys();
     void newItem();
     void conversion_data();
     void conversion();
@@ -156,18 +155,6 @@ void TestAttributes::everySetterOfTheHeadersIsDefined()
             QVERIFY2(defined.contains(setter), qPrintable(setter));
         }
     }
-}
-
-// Other programs and the editor ask for these by name.
-void TestAttributes::fixedKeys()
-{
-    LTextEffectNode node;
-    node.SetHtmlText("shown");
-    node.SetRawHtmlText("raw");
-    node.SetPlayText("plain");
-    QCOMPARE(node.Attribute("Html").toString(), QString("shown"));
-    QCOMPARE(node.Attribute("RawHtml").toString(), QString("raw"));
-    QCOMPARE(node.Attribute("PlayText").toString(), QString("plain"));
 }
 
 void TestAttributes::newItem()

@@ -17,16 +17,12 @@ private slots:
     void equalsLiteral();
     void opaqueEqualsLiteral_data();
     void opaqueEqualsLiteral();
-    void wholeTextKept();
     void softEdges_data();
     void softEdges();
     void bandAndInside();
-    void softEdgesOnGround_data();
-    void softEdgesOnGround();
     void groundOfBorder();
     void faintNoiseIsNotText();
     void returnedUnchanged();
-    void anyFormat_data();
     void anyFormat();
     void ratioAndSourceKept();
     void hugeRadius();
@@ -108,21 +104,6 @@ void TestImageEffects::opaqueEqualsLiteral()
     QVERIFY2(groundError(page, hollow, emptied) == 0, "hollow");
 }
 
-void TestImageEffects::wholeTextKept()
-{
-    for (quint32 seed = 1; seed <= 20; ++seed) {
-        const QImage page = randomPage(QSize(90, 70), seed);
-        const QImage stroke = getStrokeImage(page, QColor(1, 255, 7), 1 + int(seed % 4));
-        for (int y = 0; y < page.height(); ++y) {
-            for (int x = 0; x < page.width(); ++x) {
-                if (qAlpha(page.pixel(x, y)) == 255) {
-                    QCOMPARE(stroke.pixel(x, y), page.pixel(x, y));
-                }
-            }
-        }
-    }
-}
-
 void TestImageEffects::softEdges_data()
 {
     QTest::addColumn<uint>("text");
@@ -183,51 +164,6 @@ void TestImageEffects::bandAndInside()
     }
 }
 
-void TestImageEffects::softEdgesOnGround_data()
-{
-    QTest::addColumn<QColor>("ground");
-    QTest::addColumn<QColor>("text");
-    QTest::newRow("white on black") << QColor(Qt::black) << QColor(Qt::white);
-    QTest::newRow("black on white") << QColor(Qt::white) << QColor(Qt::black);
-    QTest::newRow("dark on black") << QColor(Qt::black) << QColor(0, 40, 10);
-    QTest::newRow("orange on blue") << QColor(0, 0, 160) << QColor(255, 128, 0);
-}
-
-void TestImageEffects::softEdgesOnGround()
-{
-    QFETCH(QColor, ground);
-    QFETCH(QColor, text);
-    // The same page with and without a ground: the picture on the ground has to be the
-    // transparent one laid on it, but for rounding and the estimate of the edge.
-    QImage page(24, 12, QImage::Format_ARGB32);
-    page.fill(0);
-    for (int y = 4; y < 8; ++y) {
-        for (int x = 6; x < 18; ++x) {
-            const int alpha = x == 6 || x == 17 ? 100 : 255;
-            page.setPixel(x, y, qRgba(text.red(), text.green(), text.blue(), alpha));
-        }
-    }
-    const QImage flat = onGround(page, ground);
-    const int tolerance = text.lightness() < 40 ? 5 : 3;
-    const QVector<QPair<QImage, QImage>> pairs{
-        {getStrokeImage(flat, Qt::red, 1), onGround(getStrokeImage(page, Qt::red, 1), ground)},
-        {getHollowImage(flat, 1), onGround(getHollowImage(page, 1), ground)}};
-    for (const auto &pair : pairs) {
-        for (int y = 0; y < page.height(); ++y) {
-            for (int x = 0; x < page.width(); ++x) {
-                for (int channel = 0; channel < 3; ++channel) {
-                    const int is = channelOf(pair.first.pixel(x, y), channel);
-                    const int should = channelOf(pair.second.pixel(x, y), channel);
-                    QVERIFY2(
-                        qAbs(is - should) <= tolerance,
-                        qPrintable(
-                            QString("(%1, %2): %3, not %4").arg(x).arg(y).arg(is).arg(should)));
-                }
-            }
-        }
-    }
-}
-
 void TestImageEffects::groundOfBorder()
 {
     // More text than ground inside, ground only where the border says so.
@@ -277,25 +213,18 @@ void TestImageEffects::returnedUnchanged()
     }
 }
 
-void TestImageEffects::anyFormat_data()
-{
-    QTest::addColumn<int>("format");
-    for (int format = QImage::Format_Mono; format < QImage::NImageFormats; ++format) {
-        QTest::addRow("format %d", format) << format;
-    }
-}
-
 void TestImageEffects::anyFormat()
 {
-    QFETCH(int, format);
-    const QImage page = randomPage(QSize(37, 21), 11).convertToFormat(QImage::Format(format));
-    const QImage straight = page.convertToFormat(QImage::Format_ARGB32);
-    const QImage stroke = getStrokeImage(page, Qt::green, 2);
-    QCOMPARE(stroke.format(), QImage::Format_ARGB32);
-    QCOMPARE(stroke, getStrokeImage(straight, Qt::green, 2));
-    const QImage hollow = getHollowImage(page, 2);
-    QCOMPARE(hollow.format(), QImage::Format_ARGB32);
-    QCOMPARE(hollow, getHollowImage(straight, 2));
+    for (int format = QImage::Format_Mono; format < QImage::NImageFormats; ++format) {
+        const QImage page = randomPage(QSize(37, 21), 11).convertToFormat(QImage::Format(format));
+        const QImage straight = page.convertToFormat(QImage::Format_ARGB32);
+        const QImage stroke = getStrokeImage(page, Qt::green, 2);
+        QCOMPARE(stroke.format(), QImage::Format_ARGB32);
+        QCOMPARE(stroke, getStrokeImage(straight, Qt::green, 2));
+        const QImage hollow = getHollowImage(page, 2);
+        QCOMPARE(hollow.format(), QImage::Format_ARGB32);
+        QCOMPARE(hollow, getHollowImage(straight, 2));
+    }
 }
 
 void TestImageEffects::ratioAndSourceKept()

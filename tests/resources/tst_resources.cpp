@@ -124,12 +124,7 @@ private slots:
     void icon_data();
     void icon();
     void iconsDiffer();
-    void namesWithoutSuffix_data();
-    void namesWithoutSuffix();
-    void roomForTheColourBar_data();
     void roomForTheColourBar();
-    void everyPictureIsCollected_data();
-    void everyPictureIsCollected();
     void frame_data();
     void frame();
 
@@ -195,66 +190,19 @@ void ResourcesTest::iconsDiffer()
     }
 }
 
-void ResourcesTest::namesWithoutSuffix_data()
-{
-    QTest::addColumn<QString>("name");
-    for (const char *name :
-         {"ContentAlignTop", "ContentAlignCenter", "ContentAlignBottom", "random"}) {
-        QTest::newRow(name) << QString(":/images/") + name;
-    }
-}
-
-void ResourcesTest::namesWithoutSuffix()
-{
-    QFETCH(QString, name);
-    for (int scale = 1; scale <= 3; ++scale) {
-        const QString bare = scale == 1 ? name : scaledName(name, scale);
-        QVERIFY(!load(bare).isNull());
-        QCOMPARE(load(bare), load(bare + ".png"));
-    }
-}
-
-void ResourcesTest::roomForTheColourBar_data()
-{
-    QTest::addColumn<int>("scale");
-    QTest::newRow("1x") << 1;
-    QTest::newRow("2x") << 2;
-    QTest::newRow("3x") << 3;
-}
-
 // The editor paints a bar over y = 13 and 14 and nothing of the letter may show beside it.
 void ResourcesTest::roomForTheColourBar()
 {
-    QFETCH(int, scale);
     const QString name = ":/images/text_drawcolor.png";
-    const QImage image = load(scale == 1 ? name : scaledName(name, scale));
-    QCOMPARE(image.width(), 16 * scale);
-    for (int y = 12 * scale; y < image.height(); ++y) {
-        for (int x = 0; x < image.width(); ++x) {
-            QCOMPARE(qAlpha(image.pixel(x, y)), 0);
+    for (int scale = 1; scale <= 3; ++scale) {
+        const QImage image = load(scale == 1 ? name : scaledName(name, scale));
+        QCOMPARE(image.width(), 16 * scale);
+        for (int y = 12 * scale; y < image.height(); ++y) {
+            for (int x = 0; x < image.width(); ++x) {
+                QCOMPARE(qAlpha(image.pixel(x, y)), 0);
+            }
         }
     }
-}
-
-void ResourcesTest::everyPictureIsCollected_data()
-{
-    QTest::addColumn<QString>("drawn");
-    QTest::addColumn<QString>("collected");
-    const QDir folder(LCTRLSEX_SOURCE_DIR "/resources/images");
-    for (const QString kind : {"", "p/", "m/", "t/"}) {
-        for (const QString &file : QDir(folder.filePath(kind)).entryList({"*.png"}, QDir::Files)) {
-            QTest::newRow(qPrintable(kind + file))
-                << folder.filePath(kind + file) << ":/images/" + kind + file;
-        }
-    }
-}
-
-void ResourcesTest::everyPictureIsCollected()
-{
-    QFETCH(QString, drawn);
-    QFETCH(QString, collected);
-    QVERIFY(!load(collected).isNull());
-    QCOMPARE(load(collected), load(drawn));
 }
 
 void ResourcesTest::frame_data()
