@@ -1,11 +1,18 @@
 #include "editorfixture.h"
 #include "fragmentmerge.h"
 
+#include <QApplication>
 #include <QRandomGenerator>
 #include <QTextBlock>
 #include <QTimer>
 
 namespace {
+
+/** Thousands of sequences instead of some dozens; takes about an hour. */
+bool isThorough()
+{
+    return qEnvironmentVariableIntValue("LCTRLSEX_THOROUGH") != 0;
+}
 
 /** What a user can tell apart: runs that look alike count as one, and HTML leaves some out. */
 QString visible(const QTextEdit *view)
@@ -244,10 +251,9 @@ static void thereAndBack(EditorFixture *item, Monkey *monkey, const QString &loa
 void TestUndo::anythingCanBeUndone()
 {
     QFETCH(QString, html);
-    const bool isThorough = qEnvironmentVariableIntValue("LCTRLSEX_THOROUGH") != 0;
     const int only = qEnvironmentVariableIntValue("LCTRLSEX_SEED");
-    const int direct = isThorough ? 1667 : 10; // sequences for each of the six documents
-    const int waiting = isThorough ? 34 : 1;   // that leave the merge to its timer
+    const int direct = isThorough() ? 1667 : 10; // sequences for each of the six documents
+    const int waiting = isThorough() ? 34 : 1;   // that leave the merge to its timer
     EditorFixture item(html);
     const QString stored = item.node->GetRawHtmlText();
     auto *timer = item.editor->findChild<QTimer *>(QStringLiteral("MergeTimer"));
@@ -297,7 +303,6 @@ void TestUndo::silenceFollows()
 {
     QFETCH(QString, keys);
     QFETCH(QByteArray, slot);
-    const bool isThorough = qEnvironmentVariableIntValue("LCTRLSEX_THOROUGH") != 0;
     // Runs to merge from the start, and no colour: the typing format is restored at each change.
     EditorFixture item("<p>a<sup>b</sup> cd</p>");
     QStringList told;
@@ -318,17 +323,26 @@ void TestUndo::silenceFollows()
     } else if (!slot.isEmpty()) {
         item.call(slot);
     }
-    QTest::qWait(isThorough ? 1000 : 200);
+    QTest::qWait(isThorough() ? 1000 : 200);
     QTEST(told.count("RawHtml"), "pushes");
     QTEST(told.count("preview"), "pushes");
     told.clear();
     connect(item.view, &QTextEdit::textChanged, item.view, [&told] { told.append("text"); });
-    QTest::qWait(isThorough ? 3000 : 400);
+    QTest::qWait(isThorough() ? 3000 : 400);
     QCOMPARE(told, QStringList());
     const auto timers = item.editor->findChildren<QTimer *>();
     QVERIFY(std::none_of(timers.cbegin(), timers.cend(),
                          [](auto *timer) { return timer->isActive(); }));
 }
 
-QTEST_MAIN(TestUndo)
+int main(int argc, char **argv)
+{
+    if (isThorough() && !qEnvironmentVariableIsSet("QTEST_FUNCTION_TIMEOUT")) {
+        qputenv("QTEST_FUNCTION_TIMEOUT", "7200000"); // milliseconds
+    }
+    QApplication application(argc, argv);
+    TestUndo test;
+    return QTest::qExec(&test, argc, argv);
+}
+
 #include "tst_undo.moc"
