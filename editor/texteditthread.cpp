@@ -14,6 +14,13 @@ TextEditThread::~TextEditThread()
 {
     ThreadQuit();
     wait();
+    takeOver();
+}
+
+/** Makes what the worker wrote known to this thread, once it is done. */
+void TextEditThread::takeOver() const
+{
+    (void)m_isDone.load();
 }
 
 void TextEditThread::SetTpye(TextOperatType type)
@@ -23,6 +30,7 @@ void TextEditThread::SetTpye(TextOperatType type)
 
 void TextEditThread::SetText(QString &text)
 {
+    takeOver();
     m_text = text;
 }
 
@@ -41,16 +49,19 @@ void TextEditThread::setMeasureOnly(bool measureOnly)
 
 QString TextEditThread::GetText() const
 {
+    takeOver();
     return m_text;
 }
 
 std::optional<lctrlsex::ConvertedColors> TextEditThread::converted() const
 {
+    takeOver();
     return m_converted;
 }
 
 QSize TextEditThread::GetSize() const
 {
+    takeOver();
     return m_size;
 }
 
@@ -61,8 +72,10 @@ bool TextEditThread::IsQuit() const
 
 void TextEditThread::ThreadStart()
 {
-    m_quit = false;
+    takeOver();
     m_converted.reset();
+    m_isDone = false;
+    m_quit = false;
     start();
 }
 
@@ -74,6 +87,7 @@ void TextEditThread::ThreadQuit()
 
 void TextEditThread::run()
 {
+    (void)m_quit.load(); // what was set before the start
     switch (m_type) {
     case ColorFlip:
         OnColorFlip();
@@ -85,6 +99,7 @@ void TextEditThread::run()
         OnDocAntialias();
         break;
     }
+    m_isDone = true;
 }
 
 void TextEditThread::convertText(ColorConversion conversion)

@@ -80,15 +80,19 @@ protected:
 private:
     Q_DISABLE_COPY(TextEditThread)
 
+    void takeOver() const;
     void convertText(lctrlsex::ColorConversion conversion);
     void OnColorFlip();
     void OnBlackWhiteFlip();
     void OnDocAntialias();
 
+    // What one thread writes before it sets a flag is seen by the other that reads the flag: ours
+    // pass everything on by these two and do not rely on what start() and wait() do besides.
+    std::atomic<bool> m_quit{true};
+    std::atomic<bool> m_isDone{true};
     QString m_text;
     std::optional<lctrlsex::ConvertedColors> m_converted;
     TextOperatType m_type = ColorFlip;
-    std::atomic<bool> m_quit{true};
     bool m_measureOnly = false;
     QSize m_size{0, 0};
     QPointer<QTextDocument> m_document;
