@@ -4,6 +4,8 @@
 #include <QTextBlock>
 #include <QTextCursor>
 #include <QTextDocument>
+#include <QTextTable>
+#include <QVector>
 
 namespace lctrlsex {
 
@@ -55,16 +57,37 @@ bool isNewTo(const QTextBlock &block, int from, int to, const QTextCharFormat &f
     return false;
 }
 
+/** From and to of what a change of @p cursor's selection touches: of cells, those selected only. */
+QVector<QPair<int, int>> touched(const QTextCursor &cursor)
+{
+    const QTextTable *table = cursor.hasComplexSelection() ? cursor.currentTable() : nullptr;
+    if (table == nullptr) {
+        return {{cursor.selectionStart(), cursor.selectionEnd()}};
+    }
+    int row = 0;
+    int rows = 0;
+    int column = 0;
+    int columns = 0;
+    cursor.selectedTableCells(&row, &rows, &column, &columns);
+    QVector<QPair<int, int>> cells;
+    for (int cell = 0; cell < rows * columns; ++cell) {
+        const QTextTableCell found = table->cellAt(row + cell / columns, column + cell % columns);
+        cells.append({found.firstPosition(), found.lastPosition()});
+    }
+    return cells;
+}
+
 } // namespace
 
 bool isNewTo(const QTextCursor &cursor, const QTextCharFormat &format)
 {
-    const int from = cursor.selectionStart();
-    const int to = cursor.selectionEnd();
-    for (QTextBlock block = cursor.document()->findBlock(from);
-         block.isValid() && block.position() <= to; block = block.next()) {
-        if (isNewTo(block, from, to, format)) {
-            return true;
+    const auto stretches = touched(cursor);
+    for (const auto &stretch : stretches) {
+        for (QTextBlock block = cursor.document()->findBlock(stretch.first);
+             block.isValid() && block.position() <= stretch.second; block = block.next()) {
+            if (isNewTo(block, stretch.first, stretch.second, format)) {
+                return true;
+            }
         }
     }
     return false;
@@ -72,10 +95,13 @@ bool isNewTo(const QTextCursor &cursor, const QTextCharFormat &format)
 
 bool isNewTo(const QTextCursor &cursor, const QTextBlockFormat &format)
 {
-    for (QTextBlock block = cursor.document()->findBlock(cursor.selectionStart());
-         block.isValid() && block.position() <= cursor.selectionEnd(); block = block.next()) {
-        if (isNewTo(block.blockFormat(), format)) {
-            return true;
+    const auto stretches = touched(cursor);
+    for (const auto &stretch : stretches) {
+        for (QTextBlock block = cursor.document()->findBlock(stretch.first);
+             block.isValid() && block.position() <= stretch.second; block = block.next()) {
+            if (isNewTo(block.blockFormat(), format)) {
+                return true;
+            }
         }
     }
     return false;
