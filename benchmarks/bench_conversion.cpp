@@ -1,9 +1,6 @@
 #include "documentconversion.h"
-#include "documentstorage.h"
 #include "floors.h"
-#include "lrichviewedit.h"
-#include "ltexteffectnode.h"
-#include "textedit.h"
+#include "openitem.h"
 #include "texteditthread.h"
 
 #include <QAbstractEventDispatcher>
@@ -16,17 +13,9 @@ namespace {
 constexpr int Characters = 100 * 1000;
 constexpr int Words = 4;
 
-/** What Qt writes of a text, as an editor hands it over. */
-QString document()
-{
-    QTextDocument document;
-    document.setHtml(floors::richText(Characters, Words));
-    return document.toHtml();
-}
-
 void colors(benchmark::State &state)
 {
-    const QString html = document();
+    const QString html = asStored(floors::richText(Characters, Words));
     const Floor throughQt{"setHtml_toHtml", [&html] {
                               QTextDocument document;
                               document.setHtml(html);
@@ -65,22 +54,16 @@ double longestGap(TextEdit *editor, TextOperatType type)
 
 void gap(benchmark::State &state)
 {
-    LTextEffectNode node;
-    node.SetSize({384, 128});
-    node.SetHtmlText(QString());
-    node.SetRawHtmlText(lctrlsex::encodeDocument(document()));
-    TextEdit editor;
-    editor.resize(900, 500);
-    editor.show();
-    editor.Init(&node);
-    const auto *view = editor.findChild<LRichViewEdit *>();
+    OpenItem item({384, 128}, floors::richText(Characters, Words));
+    TextEdit &editor = item.editor;
+    const LRichViewEdit *view = item.view;
     const Floor clone{"clone", [view] {
                           delete view->document()->clone();
                       }};
     const auto type = TextOperatType(state.range(0));
     floors::measureBesideFloors(state,
                                 [&] {
-                                    if (!node.GetTextAntialias()) {
+                                    if (!item.node.GetTextAntialias()) {
                                         editor.ConvertText(DocAntialias); // on again, at once
                                     }
                                     QCoreApplication::processEvents(); // what the round before left

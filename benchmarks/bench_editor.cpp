@@ -1,62 +1,20 @@
-#include "documentstorage.h"
 #include "floors.h"
-#include "lrichviewedit.h"
-#include "ltexteffectnode.h"
-#include "textedit.h"
+#include "openitem.h"
 
 #include <QAbstractTextDocumentLayout>
 #include <QApplication>
-#include <QKeyEvent>
-#include <QTextEdit>
 
 using floors::Floor;
 
 namespace {
 
-constexpr QSize ItemSize(384, 128);
-
-/** An editor with a document, and a bare view of the same. */
-struct Pair
+/** An item with text of about @p characters, see floors::richText(). */
+struct Pair : OpenItem
 {
     explicit Pair(int characters, int words = 1)
-        : html(normalized(floors::richText(characters, words)))
-    {
-        node.SetSize(ItemSize);
-        node.SetHtmlText(QString());
-        node.SetRawHtmlText(lctrlsex::encodeDocument(html));
-        editor.resize(900, 500);
-        editor.show();
-        editor.Init(&node);
-        view = editor.findChild<LRichViewEdit *>();
-        bare.resize(view->size());
-        bare.setLineWrapColumnOrWidth(ItemSize.width());
-        bare.setLineWrapMode(QTextEdit::FixedPixelWidth);
-        bare.show();
-        bare.setHtml(html);
-        QCoreApplication::processEvents();
-    }
-
-    /** What Qt itself writes, as it is stored. */
-    static QString normalized(const QString &html)
-    {
-        QTextDocument document;
-        document.setHtml(html);
-        return document.toHtml();
-    }
-
-    QString html;
-    LTextEffectNode node;
-    TextEdit editor;
-    LRichViewEdit *view = nullptr;
-    QTextEdit bare;
+        : OpenItem({384, 128}, floors::richText(characters, words))
+    {}
 };
-
-void press(QTextEdit *view, int key)
-{
-    QKeyEvent event(QEvent::KeyPress, key, Qt::NoModifier);
-    QCoreApplication::sendEvent(view, &event);
-    QCoreApplication::processEvents();
-}
 
 /** There and back, so that every round finds the cursor where the last one did. */
 void moveBy(QTextEdit *view, int steps)

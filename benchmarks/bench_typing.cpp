@@ -1,15 +1,11 @@
 #include "documentstorage.h"
 #include "floors.h"
 #include "htmlunits.h"
-#include "lrichviewedit.h"
-#include "ltexteffectnode.h"
-#include "textedit.h"
+#include "openitem.h"
 
 #include <QApplication>
 #include <QFile>
-#include <QKeyEvent>
 #include <QTextBlock>
-#include <QTextEdit>
 
 #include <cstring>
 
@@ -17,10 +13,8 @@ using floors::Floor;
 
 namespace {
 
-constexpr QSize ItemSize(256, 64);
-
-/** Paragraphs of about a hundred characters in three looks, as they are stored. */
-QString storedHtml(int characters)
+/** Paragraphs of about a hundred characters in three looks. */
+QString threeLooks(int characters)
 {
     QString html = QStringLiteral("<html><body>");
     for (int written = 0; written < characters; written += 102) {
@@ -32,45 +26,20 @@ QString storedHtml(int characters)
             "style=\"font-family:'DejaVu Sans'; font-size:12pt; color:#00ff80\">please mind the "
             "announcements there</span></p>");
     }
-    QTextDocument document;
-    document.setHtml(html + QStringLiteral("</body></html>"));
-    return document.toHtml();
+    return html + QStringLiteral("</body></html>");
 }
 
-/** An item that is open in an editor, and a bare view of the same text. */
-struct Item
+/** An item of the smallest usual size, so that most of a text lies below its first page. */
+struct Item : OpenItem
 {
     explicit Item(int characters)
-        : html(storedHtml(characters))
-    {
-        node.SetSize(ItemSize);
-        node.SetHtmlText(QString());
-        node.SetRawHtmlText(lctrlsex::encodeDocument(html));
-        editor.resize(900, 500);
-        editor.show();
-        editor.Init(&node);
-        view = editor.findChild<LRichViewEdit *>();
-        bare.resize(view->size());
-        bare.setLineWrapColumnOrWidth(ItemSize.width());
-        bare.setLineWrapMode(QTextEdit::FixedPixelWidth);
-        bare.show();
-        bare.setHtml(html);
-        QCoreApplication::processEvents();
-    }
-
-    QString html;
-    LTextEffectNode node;
-    TextEdit editor;
-    LRichViewEdit *view = nullptr;
-    QTextEdit bare;
+        : OpenItem({256, 64}, threeLooks(characters))
+    {}
 };
 
-/** One character, and all that follows from it, painting included. */
 void typeInto(QTextEdit *view)
 {
-    QKeyEvent event(QEvent::KeyPress, Qt::Key_X, Qt::NoModifier, QStringLiteral("x"));
-    QCoreApplication::sendEvent(view, &event);
-    QCoreApplication::processEvents();
+    press(view, Qt::Key_X, QStringLiteral("x"));
 }
 
 enum Place { Start, BelowPage, End };
@@ -165,9 +134,7 @@ double growthOver(int keys, QTextEdit *view)
                 typeInto(view);
             }
             for (int i = 0; i < 25; ++i) {
-                QKeyEvent event(QEvent::KeyPress, Qt::Key_Backspace, Qt::NoModifier);
-                QCoreApplication::sendEvent(view, &event);
-                QCoreApplication::processEvents();
+                press(view, Qt::Key_Backspace);
             }
         }
     };
