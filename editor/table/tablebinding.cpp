@@ -51,8 +51,13 @@ QStringList bindKeysOf(const QPointer<LTextEffectNode> &node)
 void setBindKeys(const QPointer<LTextEffectNode> &node, const QStringList &keys,
                  const std::function<bool()> &isStill)
 {
-    for (int i = 0; i < keys.size() && i < int(std::size(Keys)) && isStill(); ++i) {
-        (node->*Keys[i].set)(keys.at(i));
+    auto value = keys.cbegin();
+    for (const KeyAccess &key : Keys) {
+        if (value == keys.cend() || !isStill()) {
+            return;
+        }
+        const Setter set = key.set;
+        (node->*set)(*value++);
     }
 }
 
