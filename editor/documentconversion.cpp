@@ -172,11 +172,17 @@ std::optional<ConvertedColors> convertColors(const QString &html, ColorConversio
     document.setDefaultStyleSheet(QStringLiteral("a { text-decoration: none; }")); // as in the view
     document.setDefaultFont(bodyFont(guarded.html));
     document.setHtml(guarded.html);
-    const QVector<ColorChange> changes = convertBlocks(&document, conversion, stop, report);
+    return convertColors(&document, conversion, stop, report);
+}
+
+std::optional<ConvertedColors> convertColors(QTextDocument *document, ColorConversion conversion,
+                                             const StopFlag &stop, const ProgressReport &report)
+{
+    const QVector<ColorChange> changes = convertBlocks(document, conversion, stop, report);
     if (stop) {
         return std::nullopt;
     }
-    return ConvertedColors{document.toHtml(), document.toPlainText(), changes};
+    return ConvertedColors{document->toHtml(), document->toPlainText(), changes};
 }
 
 bool applyColors(QTextDocument *document, const ConvertedColors &converted)

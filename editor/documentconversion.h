@@ -58,8 +58,17 @@ struct ConvertedColors
                                                            const ProgressReport &report);
 
 /**
- * Gives the text of @p document the colours that changed in a conversion of its HTML, in one undo
- * step; all that HTML does not carry stays. Without a change nothing is announced. False, and
+ * The same for @p document itself, whose positions the changes then have: HTML leaves out an empty
+ * paragraph behind a table. A document that was stopped on the way has some of the new colours.
+ */
+[[nodiscard]] std::optional<ConvertedColors> convertColors(QTextDocument *document,
+                                                           ColorConversion conversion,
+                                                           const StopFlag &stop,
+                                                           const ProgressReport &report);
+
+/**
+ * Gives the text of @p document the colours that changed in a conversion of its HTML or of a
+ * copy of it, in one undo step; all else stays. Without a change nothing is announced. False, and
  * nothing is done, when the document does not hold the text that was converted.
  */
 [[nodiscard]] bool applyColors(QTextDocument *document, const ConvertedColors &converted);

@@ -108,8 +108,13 @@ void TextEditThread::convertText(ColorConversion conversion)
         emit emitProcessValue(percent);
     };
     QTextDocument *document = m_document;
-    const QString html = m_text.isEmpty() && document != nullptr ? document->toHtml() : m_text;
+    const bool isDocument = m_text.isEmpty() && document != nullptr;
+    const QString html = isDocument ? document->toHtml() : m_text;
     m_converted = lctrlsex::convertColors(html, conversion, m_quit, report);
+    if (isDocument && m_converted && m_converted->text != document->toPlainText()) {
+        // HTML leaves out an empty paragraph behind a table: no position below it would fit.
+        m_converted = lctrlsex::convertColors(document, conversion, m_quit, report);
+    }
     if (m_converted) {
         m_text = m_converted->html;
     }

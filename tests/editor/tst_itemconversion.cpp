@@ -84,6 +84,7 @@ class ItemConversionTest : public QObject
 private slots:
     void colorsAreOneStep_data();
     void colorsAreOneStep();
+    void besideATable();
     void unchangedIsNoStep();
     void antialiasingIsTheItems();
     void isStopped_data();
@@ -125,6 +126,22 @@ void ItemConversionTest::colorsAreOneStep()
     QCOMPARE(item.node->GetRawHtmlText(), before);
     item.view->redo();
     QTEST(colors(item), "expected");
+}
+
+/** Qt's HTML leaves out an empty paragraph behind a table. */
+void ItemConversionTest::besideATable()
+{
+    EditorFixture item;
+    item.view->textCursor().insertTable(1, 1);
+    item.view->moveCursor(QTextCursor::End);
+    item.key(Qt::Key_Return);
+    item.type("caption");
+    item.settle();
+    const QString before = item.view->toHtml();
+    convert(item, Invert);
+    QCOMPARE(colors(item), QStringList{"#000000"});
+    item.view->undo();
+    QCOMPARE(item.view->toHtml(), before);
 }
 
 void ItemConversionTest::unchangedIsNoStep()
