@@ -1,5 +1,6 @@
 #pragma once
 
+#include "conditionalstyles.h"
 #include "datasourceconfig.h"
 #include "table/datasourceindex.h"
 #include "table/fieldimages.h"
@@ -23,7 +24,9 @@ public:
         m_source = source;
         m_calculation = calculation;
         index = DataSourceIndex(config, source);
-        expressions = expressionsOf(calculation);
+        QVector<CalculationCondition> calculations;
+        calculationsFromJson(calculation, &calculations);
+        expressions = defaultValues(calculations);
         return true;
     }
 

@@ -1,3 +1,4 @@
+#include "conditionalstyles.h"
 #include "datasourceconfigmanager.h"
 #include "edittoolbar.h"
 #include "fieldvalues.h"
@@ -12,9 +13,6 @@
 
 #include <QAction>
 #include <QInputDialog>
-#include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
 #include <QMenu>
 #include <QMessageBox>
 
@@ -196,17 +194,14 @@ void TextEdit::UpdateExpression(QMap<QString, QString> &values)
 
 void TextEdit::UpdateConditionStyles(QMap<QString, QString> &styles)
 {
-    QJsonArray list;
-    for (auto it = styles.cbegin(); it != styles.cend(); ++it) {
-        list.append(
-            QJsonObject{{QStringLiteral("id"), it.key()}, {QStringLiteral("name"), it.value()}});
-    }
-    m_binding->setConditionStyles(QString::fromUtf8(QJsonDocument(list).toJson()));
+    m_binding->setConditionStyles(styles);
 }
 
 void TextEdit::LoadConditionStyles()
 {
-    m_binding->setConditionStyles(nodeCall(m_node, &LTextEffectNode::GetSpanConditions));
+    lctrlsex::ConditionalStyles styles;
+    lctrlsex::stylesFromJson(nodeCall(m_node, &LTextEffectNode::GetSpanConditions), &styles);
+    m_binding->setConditionStyles(lctrlsex::styleNames(styles));
 }
 
 void TextEdit::ProcessPaddingHtmlTable()

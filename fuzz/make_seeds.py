@@ -118,6 +118,24 @@ def units():
         write("htmlunits", f"odd-{i}", odd)
 
 
+def records():
+    style = ('{"bgColor":0,"bold":true,"color":255,"fontName":"Sans","fontSize":16,"italic":false,'
+             '"underline":true}')
+    values = ["null", "true", "1.5", "-4294967295", "1e400", "1e300", '"5"', '"\\ud800"', "[]", "[5]",
+              "{}", '{"a":[{}]}', '"a:b"', '":"', '""']
+    for i, value in enumerate(values):
+        for k, text in enumerate([
+                f'[{{"id":{value},"name":"n","conditions":[{{"type":0,"expression":[">5"],'
+                f'"fontStyle":{style},"key":{value}}},{{"key":"","x":{value}}}]}}]',
+                f'[{{"conditions":[{{"type":{value},"expression":{value},"fontStyle":{value}}}]}},{value}]',
+                f'[{{"id":"1","key":{value},"defaultValue":{value},"expressions":[{{"variableName":'
+                f'"var1","expression":{{"func":{value},"args":["${{a}}",{value}]}}}}],"z":{value}}}]']):
+            write("recordsjson", f"value-{i}-{k}", text.encode())
+    for i, text in enumerate(["", "[", "{}", "[[", "[]]", "[" * 1025, '[{"id":"a","id":"b"}]',
+                              '[{"conditions":[{"key":"b:x"},{"key":""},{"key":"a:y"}]}]']):
+        write("recordsjson", f"text-{i}", text.encode())
+
+
 def choices():
     for target, longest in (("storedtext", 400), ("fragmentmerge", 150)):
         for i in range(60):
@@ -130,4 +148,5 @@ pictures()
 texts()
 markup()
 units()
+records()
 choices()

@@ -5,17 +5,17 @@
 static auto fields(const FontStyle &record)
 {
     return std::tie(record.fontName, record.fontSize, record.color, record.bgColor, record.bold,
-                    record.italic, record.underline);
+                    record.italic, record.underline, record.others);
 }
 
 static auto fields(const SpanCondition &record)
 {
-    return std::tie(record.type, record.expression, record.fontStyle, record.key);
+    return std::tie(record.type, record.expression, record.fontStyle, record.key, record.others);
 }
 
 static auto fields(const FieldConditions &record)
 {
-    return std::tie(record.id, record.name, record.conditions);
+    return std::tie(record.id, record.name, record.conditions, record.others);
 }
 
 static auto fields(const DynamicData &record)
@@ -25,17 +25,17 @@ static auto fields(const DynamicData &record)
 
 static auto fields(const FunctionCall &record)
 {
-    return std::tie(record.func, record.args);
+    return std::tie(record.func, record.args, record.others);
 }
 
 static auto fields(const CalculationStep &record)
 {
-    return std::tie(record.variableName, record.expression);
+    return std::tie(record.variableName, record.expression, record.others);
 }
 
 static auto fields(const CalculationCondition &record)
 {
-    return std::tie(record.id, record.key, record.defaultValue, record.expressions);
+    return std::tie(record.id, record.key, record.defaultValue, record.expressions, record.others);
 }
 
 static auto fields(const CalculationVariable &record)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QJsonObject>
 #include <QMap>
 #include <QMetaType>
 #include <QString>
@@ -20,6 +21,8 @@ struct FontStyle
     bool bold = false;
     bool italic = false;
     bool underline = false;
+    /** Members that a stored record had besides; written again with it. */
+    QJsonObject others = {};
 };
 
 /** One condition of a conditional style. */
@@ -33,6 +36,8 @@ struct SpanCondition
     FontStyle fontStyle;
     /** The bound field, in memory without its source's name; empty in the further conditions. */
     QString key;
+    /** Members that a stored record had besides; written again with it. */
+    QJsonObject others = {};
 };
 
 /** The conditions that stand together under one name: one row of the styling dialog. */
@@ -44,6 +49,8 @@ struct FieldConditions
     QString name;
     /** In order; the first that holds wins. */
     QVector<SpanCondition> conditions;
+    /** Members that a stored record had besides; written again with it. */
+    QJsonObject others = {};
 };
 
 /** The conditional styles of one data source. */
@@ -66,6 +73,8 @@ struct FunctionCall
     QString func;
     /** The arguments as text; "${name}" refers to a variable. */
     QStringList args;
+    /** Members that a stored record had besides; written again with it. */
+    QJsonObject others = {};
 };
 
 /** One step of a calculation. */
@@ -74,6 +83,8 @@ struct CalculationStep
     /** Name under which later steps use the result. */
     QString variableName;
     FunctionCall expression;
+    /** Members that a stored record had besides; written again with it. */
+    QJsonObject others = {};
 };
 
 /** One calculation: a chain of steps. */
@@ -87,6 +98,8 @@ struct CalculationCondition
     QString defaultValue;
     /** The steps, in order of evaluation. */
     QVector<CalculationStep> expressions;
+    /** Members that a stored record had besides; written again with it. */
+    QJsonObject others = {};
 };
 
 /** A variable that an argument can name. */

@@ -1,11 +1,10 @@
 #include "bindingmenus.h"
 
 #include <QActionGroup>
-#include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
 #include <QMenu>
 #include <QToolButton>
+
+#include <algorithm>
 
 namespace lctrlsex {
 
@@ -137,22 +136,12 @@ void BindingMenus::rebuild(const DataSourceIndex &index, const QMap<QString, QSt
     }
 }
 
-void BindingMenus::setConditionStyles(const QString &json)
+void BindingMenus::setConditionStyles(const QMap<QString, QString> &styles)
 {
-    QVector<Style> styles;
-    const QJsonArray array = QJsonDocument::fromJson(json.toUtf8()).array();
-    for (const QJsonValue &entry : array) {
-        if (entry.isObject()) {
-            const QJsonObject object = entry.toObject();
-            styles.append({object.value(QLatin1String("name")).toString(),
-                           object.value(QLatin1String("id")).toVariant().toString()});
-        }
+    if (styles != m_styles && m_styleMenu != nullptr) {
+        m_styles = styles;
+        showStyles();
     }
-    if (styles == m_styles || m_styleMenu == nullptr) {
-        return;
-    }
-    m_styles = styles;
-    showStyles();
 }
 
 void BindingMenus::showSources()
@@ -218,8 +207,13 @@ void BindingMenus::showExpressions()
 void BindingMenus::showStyles()
 {
     clear(m_styleMenu);
-    for (const Style &style : qAsConst(m_styles)) {
-        addEntry(m_styleMenu, style.name)->setProperty("id", style.id);
+    QStringList identifiers = m_styles.keys();
+    std::stable_sort(
+        identifiers.begin(), identifiers.end(), [this](const QString &left, const QString &right) {
+            return QString::localeAwareCompare(m_styles.value(left), m_styles.value(right)) < 0;
+        });
+    for (const QString &identifier : qAsConst(identifiers)) {
+        addEntry(m_styleMenu, m_styles.value(identifier))->setProperty("id", identifier);
     }
     if (m_styles.isEmpty()) {
         addReason(m_styleMenu, tr("No conditional style is defined"));

@@ -37,8 +37,8 @@ public:
 
     /** Offers the sources and fields of @p index and the calculations by their names. */
     void rebuild(const DataSourceIndex &index, const QMap<QString, QString> &expressions);
-    /** Offers the styles of @p json, an array of objects with "name" and "id"; none else. */
-    void setConditionStyles(const QString &json);
+    /** Offers conditional styles, identifier to name, in the order of their names. */
+    void setConditionStyles(const QMap<QString, QString> &styles);
 
 signals:
     /** A data source was picked; the action's text is its name. */
@@ -59,13 +59,6 @@ private:
 
     Q_DISABLE_COPY(BindingMenus)
 
-    struct Style
-    {
-        QString name;
-        QString id;
-        bool operator==(const Style &other) const { return name == other.name && id == other.id; }
-    };
-
     QVector<QPointer<QToolButton>> m_buttons;
     QPointer<QMenu> m_sources;
     QPointer<QActionGroup> m_sourceGroup;
@@ -75,7 +68,7 @@ private:
 
     DataSourceIndex m_index;
     QStringList m_expressions;
-    QVector<Style> m_styles;
+    QMap<QString, QString> m_styles; ///< Names by identifier.
 };
 
 } // namespace lctrlsex

@@ -2,10 +2,6 @@
 
 #include "datasourceconfig.h"
 
-#include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
-
 namespace lctrlsex {
 
 namespace {
@@ -27,21 +23,6 @@ QString qualifiedKey(const QString &source, const QString &key)
 int longerLength(int current, int candidate)
 {
     return current < candidate && current < LengthNotCounted ? candidate : current;
-}
-
-QMap<QString, QString> expressionsOf(const QString &calculationJson)
-{
-    QMap<QString, QString> expressions;
-    const QJsonArray array = QJsonDocument::fromJson(calculationJson.toUtf8()).array();
-    for (const QJsonValue &entry : array) {
-        const QJsonObject object = entry.toObject();
-        const QString key = object.value(QLatin1String("key")).toString();
-        if (!key.isEmpty()) {
-            const QJsonValue value = object.value(QLatin1String("defaultValue"));
-            expressions.insert(key, value.toVariant().toString());
-        }
-    }
-    return expressions;
 }
 
 DataSourceIndex::DataSourceIndex(const DataSourceConfig &config, const QString &selectedSource)

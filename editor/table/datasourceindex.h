@@ -27,12 +27,6 @@ struct KeyDescriptor
 [[nodiscard]] int longerLength(int current, int candidate);
 
 /**
- * The names and current values of a list of calculations: a JSON array of objects, "key" to
- * "defaultValue". The last of equal names counts; what is not so written is left out.
- */
-[[nodiscard]] QMap<QString, QString> expressionsOf(const QString &calculationJson);
-
-/**
  * What an editor offers and knows of the enabled data sources: a value, read once from the
  * configuration.
  */

@@ -60,7 +60,7 @@ private slots:
     {
         BindingMenus menus;
         menus.rebuild(index("weather"), {{"average", "3"}});
-        menus.setConditionStyles(R"([{"name":"Low","id":"7"},5,{"name":"High","id":"9"}])");
+        menus.setConditionStyles({{"7", "Low"}, {"9", "High"}});
         QSignalSpy sources(&menus, &BindingMenus::sourcePicked);
         QSignalSpy fields(&menus, &BindingMenus::fieldPicked);
         QSignalSpy styles(&menus, &BindingMenus::stylePicked);
@@ -79,11 +79,11 @@ private slots:
         QCOMPARE(fields.at(0).at(0).value<QAction *>()->data().toString(), QString("weather:wind"));
         QCOMPARE(fields.at(1).at(0).value<QAction *>()->data().toString(), QString("average"));
 
-        QCOMPARE(texts(menu(menus, 2)), QStringList({"Low", "High"}));
-        menu(menus, 2)->actions().at(1)->trigger();
+        QCOMPARE(texts(menu(menus, 2)), QStringList({"High", "Low"}));
+        menu(menus, 2)->actions().at(0)->trigger();
         const auto *style = styles.at(0).at(0).value<QAction *>();
         QCOMPARE(style->property("id").toString(), QString("9"));
-        menus.setConditionStyles("{}");
+        menus.setConditionStyles({});
         QCOMPARE(texts(menu(menus, 2)), QStringList({"No conditional style is defined"}));
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     }
@@ -117,7 +117,7 @@ private slots:
         bar.reset();
         QVERIFY(menus->buttons().isEmpty());
         menus->rebuild(index("weather"), {{"a", "b"}});
-        menus->setConditionStyles(R"([{"name":"Low","id":"7"}])");
+        menus->setConditionStyles({{"7", "Low"}});
         menus->retranslate();
     }
 };

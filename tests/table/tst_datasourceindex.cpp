@@ -60,27 +60,6 @@ private slots:
         QCOMPARE(longerLength(50, 80), 80);
         QCOMPARE(longerLength(120, 200), 120);
     }
-
-    void readsExpressions_data()
-    {
-        using Map = QMap<QString, QString>;
-        QTest::addColumn<QString>("json");
-        QTest::addColumn<Map>("expressions");
-        QTest::newRow("broken") << "[{" << Map();
-        QTest::newRow("an object") << R"({"key":"a","defaultValue":"1"})" << Map();
-        QTest::newRow("two") << R"([{"key":"b","defaultValue":"2"},{"key":"a","defaultValue":""}])"
-                             << Map{{"a", ""}, {"b", "2"}};
-        QTest::newRow("last wins, the rest is left out")
-            << R"([{"key":"a","defaultValue":"1"},7,{"defaultValue":"x"},{"key":"a","defaultValue":2}])"
-            << Map{{"a", "2"}};
-    }
-    void readsExpressions()
-    {
-        QFETCH(QString, json);
-        using Map = QMap<QString, QString>;
-        QFETCH(Map, expressions);
-        QCOMPARE(expressionsOf(json), expressions);
-    }
 };
 
 QTEST_APPLESS_MAIN(TestDataSourceIndex)

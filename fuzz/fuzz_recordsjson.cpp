@@ -1,0 +1,40 @@
+// Whatever is read as records is written so that it is read again as it was, as the toolkit writes.
+
+#include "conditionalstyles.h"
+#include "recordsjson.h"
+
+#include <QJsonDocument>
+
+#include <cstdlib>
+
+using namespace lctrlsex;
+
+static void demand(bool holds)
+{
+    if (!holds) {
+        std::abort();
+    }
+}
+
+extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
+{
+    const QString text = QString::fromUtf8(reinterpret_cast<const char *>(data), int(size));
+    ConditionalStyles styles;
+    QVector<CalculationCondition> calculations;
+    const RecordsFault fault = stylesFromJson(text, &styles);
+    demand(bool(calculationsFromJson(text, &calculations)) == bool(fault));
+    demand(!fault || (styles.isEmpty() && calculations.isEmpty()));
+
+    const QString json = stylesToJson(styles);
+    ConditionalStyles again;
+    demand(!stylesFromJson(json, &again) && again == styles && stylesToJson(again) == json);
+    demand(QString::fromUtf8(QJsonDocument::fromJson(json.toUtf8()).toJson()) == json);
+    takeStyles(&again, combinedStyles(styles, {}));
+    demand(again == styles);
+
+    const QString list = calculationsToJson(calculations);
+    QVector<CalculationCondition> same;
+    demand(!calculationsFromJson(list, &same) && same == calculations);
+    demand(QString::fromUtf8(QJsonDocument::fromJson(list.toUtf8()).toJson()) == list);
+    return 0;
+}
