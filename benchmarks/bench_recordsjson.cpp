@@ -10,7 +10,7 @@ using namespace lctrlsex;
 namespace {
 
 constexpr int Records = 10000;
-constexpr int Rounds = 21;
+constexpr int Rounds = 11;
 
 ConditionalStyles manyStyles()
 {

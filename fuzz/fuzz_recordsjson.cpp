@@ -29,7 +29,11 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     ConditionalStyles again;
     demand(!stylesFromJson(json, &again) && again == styles && stylesToJson(again) == json);
     demand(QString::fromUtf8(QJsonDocument::fromJson(json.toUtf8()).toJson()) == json);
-    takeStyles(&again, combinedStyles(styles, {}));
+    again.clear();
+    StyleFiler filer(&again);
+    for (const FieldConditions &entry : combinedStyles(styles, {}).items) {
+        filer.file(entry);
+    }
     demand(again == styles);
 
     const QString list = calculationsToJson(calculations);

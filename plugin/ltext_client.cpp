@@ -1,5 +1,6 @@
 #include "ltext_client.h"
 
+#include "conditionalstyles.h"
 #include "datasourceconfigmanager.h"
 #include "lappconfig.h"
 #include "lbutton.h"
@@ -60,6 +61,7 @@ void LTextClient::deleteInstance()
 
 LTextClient::LTextClient()
     : m_form(std::make_unique<lctrlsex::ClientForm>(this))
+    , m_filer(std::make_unique<lctrlsex::StyleFiler>(&m_conditionalStyles))
 {
     m_form->BtnBg->hide();
     PreparePanel();

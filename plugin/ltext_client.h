@@ -1,6 +1,7 @@
 #pragma once
 
 #include "datasourceconfig.h"
+#include "dynamicdata.h"
 #include "inodeclient.h"
 #include "lctrlsexexport.h"
 #include "ltexteffectnode.h"
@@ -16,7 +17,8 @@ class LFrameNode;
 
 namespace lctrlsex {
 class ClientForm;
-}
+class StyleFiler;
+} // namespace lctrlsex
 
 namespace Lum {
 namespace LTextPlugin {
@@ -100,6 +102,8 @@ private slots:
     void OnPlayTypeChanged();
     void OnByTimeChanged(int val);
     void OnByCountChanged(int val);
+    /** Also chooses a direction, or takes it away; it is a display effect. */
+    void OnContinuousMove(bool checked);
 
     // Data
 
@@ -109,6 +113,10 @@ private slots:
      */
     void OnConditionalStylesClicked();
     void OnSetOperationClicked();
+    /** Takes over what became of PrepareDynamicDataWithPrefix() and stores it on the node. */
+    void AcceptConditionalStyles(const DynamicData &result);
+    /** Takes over what became of PrepareDynamicDataCal() and stores it on the node. */
+    void AcceptOperations(const CalculationDynamicData &result);
     /** Binds the table to @p bindField, empty for none; the field that it has writes nothing. */
     void OnTableBindFieldChanged(const QString &bindField);
 
@@ -141,6 +149,7 @@ private:
 
     void InitEffectParam();
     void FillPlayType();
+    void ShowPlayType();
     void SetDisPlayEffects(const QStringList &list, bool flag);
     void FillEffects();
     void SetBtnStyle();
@@ -149,6 +158,26 @@ private:
     void TranslateEffects();
     void TranslateTexts();
     void TranslateToolTips();
+
+    // Records of conditional styles and calculations; each reading replaces what was there
+
+    /** The text of @p styles, whose names the editor offers from then on. */
+    [[nodiscard]] QString DynamicDataListToJson(QMap<QString, DynamicData> &styles);
+    void JsonToDynamicDataList(const QString &jsonString, QMap<QString, DynamicData> &dynamicData);
+    /** The text of the calculations, whose default values the editor offers from then on. */
+    [[nodiscard]] QString DynamicDataListToJsonCalculation();
+    void JsonToDynamicDataListCalculation(const QString &text);
+    /** All styles with qualified keys, and the fields on offer. */
+    void PrepareDynamicDataWithPrefix(DynamicData &combinedData);
+    /** All calculations, and the fields on offer with their values; what else is there stays. */
+    void PrepareDynamicDataCal(CalculationDynamicData &combinedData);
+    void ProcessDialogResult(DynamicData resultData);
+    void ProcessDialogResultCalculation(CalculationDynamicData resultData);
+    /** Files a condition of the entry at hand under its source. */
+    void ProcessSpanCondition(SpanCondition spanCond);
+    void ProcessCalculation(CalculationCondition &calculation);
+    /** Reads what the node stores, unless it is what was read last. */
+    void LoadRecords();
 
     /** False when node, configuration and fields are those of the last time. */
     bool RegisterFields();
@@ -175,6 +204,12 @@ private:
     DataSourceConfig m_config;
     QVector<DynamicDataSource> m_sources;
     QStringList m_fieldEntries;
+    QPointer<LTextEffectNode> m_recordsNode;
+    QString m_stylesText;
+    QString m_calculationsText;
+    QMap<QString, DynamicData> m_conditionalStyles; ///< By the name of the data source.
+    QVector<CalculationCondition> m_calculations;
+    std::unique_ptr<lctrlsex::StyleFiler> m_filer;
     bool m_hasTable = false;
     bool m_handlingConfig = false;
     bool m_configStale = false;

@@ -114,6 +114,9 @@ void LTextClient::HandleConfigChanged()
             FillFieldChooser();
         }
         if (self) {
+            LoadRecords();
+        }
+        if (self) {
             ShowBoundField();
         }
         if (self) {

@@ -59,7 +59,14 @@ void LTextClient::FillPlayType()
         m_form->sbByTime->setValue(time);
         m_form->sbByCount->setValue(count);
         m_form->ContinuousMove->setChecked(continuous);
+        ShowPlayType();
     }
+}
+
+void LTextClient::ShowPlayType()
+{
+    m_form->sbByTime->setEnabled(m_form->rbByTime->isChecked());
+    m_form->sbByCount->setEnabled(m_form->rbByCount->isChecked());
 }
 
 static bool showsLcdEffects(LNode *node)
@@ -198,6 +205,7 @@ void LTextClient::TranslateTexts()
     const auto &form = *m_form;
     form.rbByTime->setText(tr("By Time"));
     form.rbByCount->setText(tr("By Count"));
+    form.sbByTime->setSuffix(tr(" s"));
     form.ContinuousMove->setText(tr("Continuous Move"));
     form.lblDisplay_4->setText(tr("Page"));
     form.Return->setText(tr("Return"));
@@ -236,6 +244,8 @@ void LTextClient::TranslateToolTips()
     explain(form.Return, tr("Return"), tr("Leave editing"));
     explain(form.sbByTime, tr("By Time"), tr("Seconds for which the item plays"));
     explain(form.sbByCount, tr("Loop"), tr("Number of times that the item plays"));
+    explain(form.ContinuousMove, tr("Continuous Move"),
+            tr("The pages move by without a stop; the display effect is the direction"));
     explain(form.NoEffect, tr("No Effect"), tr("Show and clear pages without an effect"));
     explain(form.Random, tr("Random"), tr("Show and clear pages with random effects"));
     explain(form.DisplayEffects, tr("Display effect"), tr("How a page appears"));

@@ -3,6 +3,7 @@
 #include "lframenode.h"
 #include "ltext_client_p.h"
 
+#include <QCheckBox>
 #include <QComboBox>
 #include <QDoubleSpinBox>
 #include <QLabel>
@@ -26,6 +27,7 @@ void LTextClient::ConnectPlayType()
     connect(form.rbByCount, SIGNAL(clicked()), this, SLOT(OnPlayTypeChanged()));
     connect(form.sbByTime, SIGNAL(valueChanged(int)), this, SLOT(OnByTimeChanged(int)));
     connect(form.sbByCount, SIGNAL(valueChanged(int)), this, SLOT(OnByCountChanged(int)));
+    connect(form.ContinuousMove, SIGNAL(clicked(bool)), this, SLOT(OnContinuousMove(bool)));
 }
 
 void LTextClient::ConnectPanel()
@@ -136,6 +138,7 @@ void LTextClient::SelectEffect(int effectType)
 void LTextClient::OnPlayTypeChanged()
 {
     if (!m_initialising && m_node) {
+        ShowPlayType();
         m_node->SetPlayType(m_form->rbByTime->isChecked() ? s_byTime : s_byCount);
     }
 }
@@ -151,6 +154,24 @@ void LTextClient::OnByCountChanged(int val)
 {
     if (!m_initialising && m_node) {
         m_node->SetByCount(val);
+    }
+}
+
+void LTextClient::OnContinuousMove(bool checked)
+{
+    const Bound bound(this);
+    if (m_initialising || !bound) {
+        return;
+    }
+    m_node->SetContinueMove(checked);
+    if (bound) {
+        InitEffectParam();
+    }
+    const int effect = bound.value(&LTextEffectNode::GetDispEffect);
+    const bool moves = effect >= ContinuousMoveLeft && effect <= ContinuousMoveUp;
+    if (bound && moves != checked) {
+        const int wanted = checked ? int(ContinuousMoveLeft) : int(LEffectNode::NoEffect);
+        m_form->DisplayEffects->setCurrentIndex(m_form->DisplayEffects->findData(wanted));
     }
 }
 

@@ -1,7 +1,5 @@
 #include "conditionalstyles.h"
 
-#include <QHash>
-
 namespace lctrlsex {
 
 QString qualified(const QString &source, const QString &key)
@@ -15,35 +13,45 @@ static QString sourceOf(const QString &key)
     return key.left(qMax(0, key.indexOf(QLatin1Char(':'))));
 }
 
-/** Files @p entry without its conditions; the place among the entries of that source. */
-static int addEntry(ConditionalStyles *styles, const QString &source, const FieldConditions &entry)
+void StyleFiler::begin(const FieldConditions &entry)
 {
-    DynamicData &data = (*styles)[source];
-    data.name = source;
-    data.items.append({entry.id, entry.name, {}, entry.others});
-    return data.items.size() - 1;
+    m_entry = entry;
+    m_entry.conditions.clear();
+    m_source.clear();
+    m_places.clear();
+    if (entry.conditions.isEmpty()) {
+        place();
+    }
 }
 
-void fileEntry(ConditionalStyles *styles, const FieldConditions &entry)
+void StyleFiler::add(SpanCondition condition)
 {
-    QString source;
-    for (auto it = entry.conditions.crbegin(); it != entry.conditions.crend(); ++it) {
-        source = it->key.isEmpty() ? source : sourceOf(it->key);
-    }
-    int place = addEntry(styles, source, entry);
-    QHash<QString, int> places;
-    auto *conditions = &(*styles)[source].items[place].conditions;
-    for (SpanCondition condition : entry.conditions) {
-        const QString own = condition.key.isEmpty() ? source : sourceOf(condition.key);
-        if (own != source) {
-            places.insert(source, place);
-            source = own;
-            place = places.contains(own) ? places.value(own) : addEntry(styles, own, entry);
-            conditions = &(*styles)[source].items[place].conditions;
-        }
+    if (!condition.key.isEmpty()) {
+        m_source = sourceOf(condition.key);
         condition.key.remove(0, condition.key.indexOf(QLatin1Char(':')) + 1);
-        conditions->append(condition);
     }
+    place().conditions.append(condition);
+}
+
+void StyleFiler::file(const FieldConditions &entry)
+{
+    begin(entry);
+    for (const SpanCondition &condition : entry.conditions) {
+        add(condition);
+    }
+}
+
+FieldConditions &StyleFiler::place()
+{
+    DynamicData &data = (*m_styles)[m_source];
+    const auto known = m_places.constFind(m_source);
+    if (known != m_places.constEnd()) {
+        return data.items[*known];
+    }
+    m_places.insert(m_source, data.items.size());
+    data.name = m_source;
+    data.items.append(m_entry);
+    return data.items.last();
 }
 
 DynamicData combinedStyles(const ConditionalStyles &styles, const QStringList &fields)
@@ -59,16 +67,6 @@ DynamicData combinedStyles(const ConditionalStyles &styles, const QStringList &f
         }
     }
     return combined;
-}
-
-void takeStyles(ConditionalStyles *styles, const DynamicData &result)
-{
-    for (DynamicData &source : *styles) {
-        source.items.clear();
-    }
-    for (const FieldConditions &entry : result.items) {
-        fileEntry(styles, entry);
-    }
 }
 
 QMap<QString, QString> styleNames(const ConditionalStyles &styles)

@@ -2,21 +2,47 @@
 
 #include "recordsjson.h"
 
+#include <QHash>
+
 namespace lctrlsex {
 
 /** @p key as it is known outside its source: source, ":" and key; an empty one stays empty. */
 [[nodiscard]] QString qualified(const QString &source, const QString &key);
 
 /**
- * Files an entry whose conditions have qualified keys under the source in front of their first
- * ":", which is made when it is missing, and takes the source off the keys: writing puts it there
- * again, once.
+ * Files entries whose conditions have qualified keys.
  *
- * A condition without a key belongs to what stands before it, in front to what follows. An entry
- * of several sources is filed under each of them with its own conditions; one of no source, and
- * keys without a ":", under the empty name, so that nothing is lost that is not bound yet.
+ * A condition is filed under the source in front of the first ":" of its key, which is made when
+ * it is missing, and the source taken off the key: writing puts it there again, once. A condition
+ * without a key belongs to the one before it. An entry of several sources is filed under each of
+ * them with its own conditions. What is bound to no source yet, and keys without a ":", stand
+ * under the empty name, so that nothing is lost.
  */
-void fileEntry(ConditionalStyles *styles, const FieldConditions &entry);
+class StyleFiler
+{
+public:
+    /** Files into @p styles, which must outlive it. */
+    explicit StyleFiler(ConditionalStyles *styles)
+        : m_styles(styles)
+    {}
+
+    /** Files all of @p entry. */
+    void file(const FieldConditions &entry);
+
+    /** From now on conditions are those of @p entry, whose own are not filed. */
+    void begin(const FieldConditions &entry);
+    /** Files one condition of the entry that was begun. */
+    void add(SpanCondition condition);
+
+private:
+    /** The entry under the present source; made when it is missing. */
+    FieldConditions &place();
+
+    ConditionalStyles *m_styles;
+    FieldConditions m_entry; ///< Without its conditions.
+    QString m_source;
+    QHash<QString, int> m_places; ///< Where the entry stands among those of each of its sources.
+};
 
 /**
  * What the styling dialog edits: the entries of all sources with qualified keys, and @p fields, the
@@ -24,12 +50,6 @@ void fileEntry(ConditionalStyles *styles, const FieldConditions &entry);
  */
 [[nodiscard]] DynamicData combinedStyles(const ConditionalStyles &styles,
                                          const QStringList &fields);
-
-/**
- * Takes over what the dialog made of combinedStyles(): the entries of every source go, the sources
- * stay, and each entry of @p result is filed anew.
- */
-void takeStyles(ConditionalStyles *styles, const DynamicData &result);
 
 /**
  * What an editor offers: the names of the entries by identifier. The last of equal identifiers

@@ -185,9 +185,9 @@ QString stylesToJson(const ConditionalStyles &styles)
 RecordsFault stylesFromJson(const QString &json, ConditionalStyles *styles)
 {
     styles->clear();
-    return readRecords(json, [styles](const QJsonObject &element) {
-        fileEntry(styles, fieldConditions(element));
-    });
+    StyleFiler filer(styles);
+    return readRecords(
+        json, [&filer](const QJsonObject &element) { filer.file(fieldConditions(element)); });
 }
 
 QString calculationsToJson(const QVector<CalculationCondition> &calculations)

@@ -31,7 +31,7 @@ struct RecordsFault
  */
 [[nodiscard]] QString stylesToJson(const ConditionalStyles &styles);
 
-/** Replaces @p styles with the entries of @p json, each filed by fileEntry(). */
+/** Replaces @p styles with the entries of @p json, filed by a StyleFiler. */
 RecordsFault stylesFromJson(const QString &json, ConditionalStyles *styles);
 
 /** The calculations in their order. */

@@ -612,6 +612,10 @@
         <source>Name under which other systems find the item</source>
         <translation>其他系统查找该文本项时使用的名称</translation>
     </message>
+    <message>
+        <source>The pages move by without a stop; the display effect is the direction</source>
+        <translation>页面不停顿地连续移动；显示效果决定移动方向</translation>
+    </message>
 </context>
 <context>
     <name>NodePublisher</name>
@@ -959,6 +963,13 @@
     <message>
         <source>The picture file is larger than %1 MB; save it smaller.</source>
         <translation>图片文件大于 %1 MB；请缩小后保存。</translation>
+    </message>
+</context>
+<context>
+    <name>RecordTexts</name>
+    <message>
+        <source>a list is expected</source>
+        <translation>应为列表</translation>
     </message>
 </context>
 <context>

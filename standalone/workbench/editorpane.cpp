@@ -44,6 +44,7 @@ EditorPane::EditorPane(ProgrammeDocument *document, ItemPages *pages, const Load
         m_client = m_plugin.client->GetClient();
         if (m_client) {
             m_stack->addWidget(m_client);
+            showPlayType();
         }
         connect(m_plugin.client, &Lum::INodeClient::editFinish, this, &EditorPane::leaveWanted);
     }
@@ -55,6 +56,14 @@ EditorPane::~EditorPane()
 {
     letGo();
     giveBack();
+}
+
+// The plug-in leaves it to its host whether the item's playing time is set beside the text.
+void EditorPane::showPlayType()
+{
+    if (auto *row = m_client->findChild<QWidget *>(QStringLiteral("widget"))) {
+        row->show();
+    }
 }
 
 QWidget *EditorPane::buildEmptyPage()

@@ -65,6 +65,7 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
+    void showPlayType();
     QWidget *buildEmptyPage();
     QWidget *buildFaultPage();
     void letGo();

@@ -1,5 +1,6 @@
 #include "slotcall.h"
 
+#include "dynamicdata.h"
 #include "ltableproperties.h"
 
 #include <QAction>
@@ -23,6 +24,8 @@ struct Arguments
     QTextCharFormat format;
     LTableProperties table;
     LTableProperties *tablePointer = &table;
+    DynamicData styles;
+    CalculationDynamicData calculations;
 
     /** @p type must outlive what is returned. */
     [[nodiscard]] QGenericArgument of(const QByteArray &type) const
@@ -36,7 +39,9 @@ struct Arguments
             {"QAction*", &action},
             {"QTextCharFormat", &format},
             {"LUM_EditInterface::LTableProperties", &table},
-            {"LUM_EditInterface::LTableProperties*", &tablePointer}};
+            {"LUM_EditInterface::LTableProperties*", &tablePointer},
+            {"DynamicData", &styles},
+            {"CalculationDynamicData", &calculations}};
         if (!values.contains(type)) {
             qFatal("no argument of type %s", type.constData());
         }
@@ -65,6 +70,8 @@ void choose(Arguments *arguments, const QObject *receiver, const QByteArray &slo
     arguments->integer = int(arguments->number);
     arguments->action = receiver->findChild<QAction *>(actions.value(slot));
     arguments->format.setFontUnderline(true);
+    arguments->styles.items = {{"{9}", "Warm", {{0, {">9"}, {}, "Plant:Level"}}}};
+    arguments->calculations.conditions = {{"9", "sum", "0", {}}};
     arguments->table.type = 1;
     arguments->table.borderWidth = 4;
     arguments->table.fixedHeader = true;

@@ -28,6 +28,22 @@ QStringList chooserTexts()
     return result;
 }
 
+/** What the editor's menu of conditional styles, or of calculations, offers. */
+QStringList offered(const QString &firstEntry)
+{
+    QStringList result;
+    const auto menus = client()->findChildren<QMenu *>();
+    for (const QMenu *menu : menus) {
+        const QList<QAction *> actions = menu->actions();
+        if (!actions.isEmpty() && actions.first()->text() == firstEntry) {
+            for (const QAction *action : actions) {
+                result << action->text();
+            }
+        }
+    }
+    return result;
+}
+
 } // namespace
 
 class TestClientData : public QObject
@@ -47,6 +63,8 @@ private slots:
     void unregisteredFieldStays();
     void configurationKeepsBindings();
     void nodeDeletedWhileRegistered();
+    void recordsAreStored();
+    void unreadableRecordsStay();
 
 private:
     QScopedPointer<LTextEffectNode> m_text;
@@ -213,6 +231,51 @@ void TestClientData::nodeDeletedWhileRegistered()
     connect(doomed, &LTextEffectNode::FieldNameValueChanged, this, [doomed] { delete doomed; });
     client()->Init(doomed);
     QVERIFY(!clientChild<QWidget>("TextAttributesContentBg")->isEnabled());
+}
+
+void TestClientData::recordsAreStored()
+{
+    DynamicData edited;
+    edited.items = {{"{1}", "Storm", {{0, {">9"}, {}, "weather:wind"}, {0, {">5"}, {}, ""}}},
+                    {"{2}", "Calm", {{0, {"<1"}, {}, ""}}}};
+    QSignalSpy changes(m_text.data(), &LData::AttributeChanged);
+    const auto accept = [this](const DynamicData &result) {
+        return QMetaObject::invokeMethod(client(), "AcceptConditionalStyles",
+                                         Q_ARG(DynamicData, result));
+    };
+    QVERIFY(accept(edited));
+    QCOMPARE(changes.count(), 1);
+    QCOMPARE(offered("Calm"), QStringList({"Calm", "Storm"}));
+    const QJsonArray stored = QJsonDocument::fromJson(m_text->GetSpanConditions().toUtf8()).array();
+    QCOMPARE(stored.at(0)["name"].toString(), QString("Calm"));
+    const QJsonArray storm = stored.at(1)["conditions"].toArray();
+    QCOMPARE(storm.at(0)["key"].toString() + storm.at(1)["key"].toString(),
+             QString("weather:wind"));
+    QVERIFY(accept({}));
+    QCOMPARE(m_text->GetSpanConditions(), QString("[\n]\n"));
+    QCOMPARE(offered("No conditional style is defined").size(), 1);
+
+    CalculationDynamicData operations;
+    operations.conditions = {{"1", "sum", "0", {}}, {"2", "mean", "7", {}}, {"3", "sum", "5", {}}};
+    QVERIFY(QMetaObject::invokeMethod(client(), "AcceptOperations",
+                                      Q_ARG(CalculationDynamicData, operations)));
+    QCOMPARE(offered("mean"), QStringList({"mean", "sum"}));
+    QCOMPARE(QJsonDocument::fromJson(m_text->GetCalculation().toUtf8()).array().size(), 3);
+}
+
+void TestClientData::unreadableRecordsStay()
+{
+    const QString broken = R"([{"id":"1","name":"Storm"},{"id":)";
+    m_text->SetSpanConditions(broken);
+    QTest::ignoreMessage(QtWarningMsg,
+                         QRegularExpression("^Conditional styles of a text item, byte 33"));
+    emit manager()->ConfigChanged();
+    emit manager()->ConfigChanged();
+    QCOMPARE(offered("No conditional style is defined").size(), 1);
+    QCOMPARE(m_text->GetSpanConditions(), broken);
+    m_text->SetSpanConditions(R"([{"id":"1","name":"Storm"}])");
+    emit manager()->ConfigChanged();
+    QCOMPARE(offered("Storm").size(), 1);
 }
 
 QTEST_MAIN(TestClientData)

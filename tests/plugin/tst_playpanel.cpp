@@ -331,6 +331,15 @@ void TestPlayPanel::continuousMovement()
         client()->GetAttributesWidget(m_text);
         QCOMPARE(box("DisplayEffects")->currentIndex(), i);
     }
+    auto *const moves = clientChild<QCheckBox>("ContinuousMove");
+    moves->click();
+    QVERIFY(!m_text->IsContinueMove());
+    QCOMPARE(m_text->GetDispEffect(), int(LEffectNode::NoEffect));
+    QCOMPARE(box("DisplayEffects")->currentText(), QString("No Effect"));
+    moves->click();
+    QVERIFY(m_text->IsContinueMove());
+    QCOMPARE(box("DisplayEffects")->currentText(), QString("Continuous Move Left"));
+    QCOMPARE(QVariant(m_text->GetDispEffect()), box("DisplayEffects")->currentData());
 }
 
 void TestPlayPanel::unknownEffectIsNotReplaced()
