@@ -25,10 +25,13 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     demand(bool(calculationsFromJson(text, &calculations)) == bool(fault));
     demand(!fault || (styles.isEmpty() && calculations.isEmpty()));
 
+    // The toolkit keeps integers beyond 2^53 until it hands them out; from then on they are
+    // doubles.
     const QString json = stylesToJson(styles);
-    ConditionalStyles again;
-    demand(!stylesFromJson(json, &again) && again == styles && stylesToJson(again) == json);
+    demand(!stylesFromJson(json, &styles) && stylesToJson(styles) == json);
     demand(QString::fromUtf8(QJsonDocument::fromJson(json.toUtf8()).toJson()) == json);
+    ConditionalStyles again;
+    demand(!stylesFromJson(json, &again) && again == styles);
     again.clear();
     StyleFiler filer(&again);
     for (const FieldConditions &entry : combinedStyles(styles, {}).items) {
@@ -37,8 +40,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     demand(again == styles);
 
     const QString list = calculationsToJson(calculations);
-    QVector<CalculationCondition> same;
-    demand(!calculationsFromJson(list, &same) && same == calculations);
+    demand(!calculationsFromJson(list, &calculations) && calculationsToJson(calculations) == list);
     demand(QString::fromUtf8(QJsonDocument::fromJson(list.toUtf8()).toJson()) == list);
     return 0;
 }
