@@ -7,10 +7,11 @@ QString qualified(const QString &source, const QString &key)
     return key.isEmpty() ? key : source + QLatin1Char(':') + key;
 }
 
-/** The source in front of the first ":"; empty without one. */
-static QString sourceOf(const QString &key)
+/** How much of @p key names its source, the ":" included; 0 when a part of it is missing. */
+static int sourceLength(const QString &key)
 {
-    return key.left(qMax(0, key.indexOf(QLatin1Char(':'))));
+    const int length = key.indexOf(QLatin1Char(':')) + 1;
+    return length < key.size() ? length : 0;
 }
 
 void StyleFiler::begin(const FieldConditions &entry)
@@ -27,8 +28,9 @@ void StyleFiler::begin(const FieldConditions &entry)
 void StyleFiler::add(SpanCondition condition)
 {
     if (!condition.key.isEmpty()) {
-        m_source = sourceOf(condition.key);
-        condition.key.remove(0, condition.key.indexOf(QLatin1Char(':')) + 1);
+        const int length = sourceLength(condition.key);
+        m_source = condition.key.left(qMax(0, length - 1));
+        condition.key.remove(0, length);
     }
     place().conditions.append(condition);
 }

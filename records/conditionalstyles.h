@@ -15,8 +15,8 @@ namespace lctrlsex {
  * A condition is filed under the source in front of the first ":" of its key, which is made when
  * it is missing, and the source taken off the key: writing puts it there again, once. A condition
  * without a key belongs to the one before it. An entry of several sources is filed under each of
- * them with its own conditions. What is bound to no source yet, and keys without a ":", stand
- * under the empty name, so that nothing is lost.
+ * them with its own conditions. What is bound to no source yet, and keys without a ":" or with
+ * nothing behind it, stand under the empty name, so that nothing is lost.
  */
 class StyleFiler
 {

@@ -272,6 +272,7 @@ void TestRecordsJson::entriesAreFiled_data()
     QTest::newRow("first ones without") << QStringList{"", "a:x"} << "/ a/x";
     QTest::newRow("first colon") << QStringList{"a:x:y"} << "a/x:y";
     QTest::newRow("no colon") << QStringList{"x", "b:y"} << "/x b/y";
+    QTest::newRow("no field") << QStringList{"a:"} << "/a:";
     QTest::newRow("two sources") << QStringList{"b:x", "", "a:y", "", "b:z"} << "a/y, b/x,,z";
 }
 
