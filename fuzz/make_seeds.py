@@ -137,7 +137,7 @@ def records():
 
 
 def choices():
-    for target, longest in (("storedtext", 400), ("fragmentmerge", 150)):
+    for target, longest in (("storedtext", 400), ("fragmentmerge", 150), ("operations", 300)):
         for i in range(60):
             numbers = random.Random(f"{target} {i}")
             size = longest * (i + 1) // 60
