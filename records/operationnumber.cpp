@@ -18,7 +18,7 @@ bool isDigit(QChar c)
 }
 
 /** Up to 15 digits with or without decimals: both parts are exact, so that one division rounds. */
-std::optional<double> plainNumber(const QString &text)
+bool readPlain(const QString &text, double *number)
 {
     const QChar *next = text.constBegin();
     const QChar *const end = text.constEnd();
@@ -26,7 +26,7 @@ std::optional<double> plainNumber(const QString &text)
     next += int(isNegative);
     const auto size = end - next;
     if (size < 1 || size > 16 || !isDigit(*next) || !isDigit(*(end - 1))) {
-        return {};
+        return false;
     }
     qint64 digits = 0;
     const QChar *point = nullptr;
@@ -36,36 +36,38 @@ std::optional<double> plainNumber(const QString &text)
         } else if (*next == QLatin1Char('.') && point == nullptr) {
             point = next;
         } else {
-            return {};
+            return false;
         }
     }
     if (point == nullptr && size > 15) {
-        return {};
+        return false;
     }
     const auto decimals = point == nullptr ? 0 : end - point - 1;
-    const double number = double(digits) / powersOfTen[size_t(decimals)];
-    return isNegative ? -number : number;
+    const double magnitude = double(digits) / powersOfTen[size_t(decimals)];
+    *number = isNegative ? -magnitude : magnitude;
+    return true;
 }
 
-/** A magnitude as it is written. */
+/** A number without its sign as it is written. */
 struct Digits
 {
-    qint64 whole;
-    int fraction;
+    /** False for what is too large, and where a sign stands before zeros. */
+    bool isKnown = false;
+    bool isWhole = false;
+    /** Before the point, and behind it too unless the number is whole. */
+    qint64 digits = 0;
 };
 
-/**
- * The digits of @p magnitude, rounded as Qt does, which takes the exact value and rounds halves up.
- * Nothing for numbers that are too large.
- */
-std::optional<Digits> digitsOf(double magnitude, int places)
+/** The digits of @p number, rounded as Qt does, which takes the exact value and halves up. */
+inline Digits digitsOf(double number, int places)
 {
+    const double magnitude = std::fabs(number);
     if (!(magnitude < largestExactInteger)) {
         return {};
     }
     const auto whole = qint64(magnitude);
     if (double(whole) == magnitude) {
-        return Digits{whole, 0};
+        return {true, true, whole};
     }
     if (magnitude >= largestScaled) {
         return {};
@@ -78,34 +80,28 @@ std::optional<Digits> digitsOf(double magnitude, int places)
     if (overHalf > 0 || (overHalf == 0 && error >= 0)) {
         ++scaled;
     }
-    return Digits{scaled / qint64(scale), int(scaled % qint64(scale))};
+    return {scaled != 0 || number >= 0, false, scaled};
 }
 
-/** As digitsOf(), but nothing where a sign stands before zeros only. */
-std::optional<Digits> signedDigitsOf(double number, int places)
+/** @p digits of which @p places stand behind the point, and @p zeros behind those. */
+QString written(qint64 digits, int places, int zeros, bool isNegative)
 {
-    const auto digits = digitsOf(std::fabs(number), places);
-    const bool isOnlySign = number < 0 && digits && digits->whole == 0 && digits->fraction == 0;
-    return isOnlySign ? std::nullopt : digits;
-}
-
-QString written(const Digits &digits, int places, bool isNegative)
-{
-    std::array<QChar, 32> characters;
+    std::array<QChar, 40> characters;
     QChar *const end = characters.data() + characters.size();
     QChar *first = end;
-    int fraction = digits.fraction;
-    for (int i = 0; i < places; ++i, fraction /= 10) {
-        *--first = QLatin1Char(char('0' + fraction % 10));
+    for (int i = 0; i < zeros; ++i) {
+        *--first = QLatin1Char('0');
     }
-    if (places > 0) {
+    for (int i = 0; i < places; ++i, digits /= 10) {
+        *--first = QLatin1Char(char('0' + digits % 10));
+    }
+    if (places + zeros > 0) {
         *--first = QLatin1Char('.');
     }
-    qint64 whole = digits.whole;
     do {
-        *--first = QLatin1Char(char('0' + whole % 10));
-        whole /= 10;
-    } while (whole > 0);
+        *--first = QLatin1Char(char('0' + digits % 10));
+        digits /= 10;
+    } while (digits > 0);
     if (isNegative) {
         *--first = QLatin1Char('-');
     }
@@ -116,30 +112,33 @@ QString written(const Digits &digits, int places, bool isNegative)
 
 std::optional<double> numberOf(const QString &text)
 {
-    const auto plain = plainNumber(text);
-    if (plain) {
-        return plain;
+    double number = 0;
+    bool isNumber = readPlain(text, &number);
+    if (!isNumber) {
+        number = text.toDouble(&isNumber);
     }
-    bool isNumber = false;
-    const double number = text.toDouble(&isNumber);
     return isNumber ? std::optional<double>(number) : std::nullopt;
 }
 
 QString fixedText(double number, int places)
 {
-    const auto digits = signedDigitsOf(number, places);
-    return digits ? written(*digits, places, number < 0) : QString::number(number, 'f', places);
+    const Digits digits = digitsOf(number, places);
+    if (!digits.isKnown) {
+        return QString::number(number, 'f', places);
+    }
+    const int zeros = digits.isWhole ? places : 0;
+    return written(digits.digits, places - zeros, zeros, number < 0);
 }
 
 QString shortText(double number)
 {
-    auto digits = signedDigitsOf(number, 6);
-    if (digits) {
-        int places = 6;
-        for (; places > 0 && digits->fraction % 10 == 0; --places) {
-            digits->fraction /= 10;
+    Digits digits = digitsOf(number, 6);
+    if (digits.isKnown) {
+        int places = digits.isWhole ? 0 : 6;
+        for (; places > 0 && digits.digits % 10 == 0; --places) {
+            digits.digits /= 10;
         }
-        return written(*digits, places, number < 0);
+        return written(digits.digits, places, 0, number < 0);
     }
     QString text = QString::number(number, 'f', 6);
     while (text.endsWith(QLatin1Char('0'))) {
@@ -153,15 +152,13 @@ QString shortText(double number)
 
 std::optional<double> roundedNumber(double number, int places)
 {
-    const auto digits = signedDigitsOf(number, places);
-    if (!digits) {
+    const Digits digits = digitsOf(number, places);
+    if (!digits.isKnown) {
         return {};
     }
     // Both are exact, so that the quotient is the very double that the text reads as.
-    const double scale = powersOfTen[size_t(places)];
-    const double magnitude = digits->fraction == 0
-                                 ? double(digits->whole)
-                                 : (double(digits->whole) * scale + digits->fraction) / scale;
+    const double magnitude = digits.isWhole ? double(digits.digits)
+                                            : double(digits.digits) / powersOfTen[size_t(places)];
     return number < 0 ? -magnitude : magnitude;
 }
 

@@ -25,10 +25,11 @@ QString argumentReason(OperationProblem problem)
     case OperationProblem::NotANumber:
         return OperationTexts::tr("%1: argument %2, \"%3\", is not a number.");
     case OperationProblem::NotAnInteger:
-        return OperationTexts::tr("%1: argument %2, \"%3\", is not a whole number.");
+        return OperationTexts::tr(
+            "%1: argument %2, \"%3\", is not a whole number or is too large.");
     case OperationProblem::CountIsZero:
         return OperationTexts::tr(
-            "%1: argument %2, \"%3\", is not a whole number and counts as 0.");
+            "%1: argument %2, \"%3\", is not a whole number or is too large; it counts as 0.");
     case OperationProblem::LaterStep:
         return OperationTexts::tr("%1: argument %2 is empty, because %3 is computed later.");
     case OperationProblem::OwnStep:

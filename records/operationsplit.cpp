@@ -2,78 +2,39 @@
 
 #include "operationresult.h"
 
-#include <vector>
+#include <QVarLengthArray>
+
+#include <algorithm>
 
 namespace lctrlsex {
 
 namespace {
 
-/** Finds a text from left to right without ever going back, however often it nearly matches. */
-class Finder
+/** By length matched: how much of @p wanted is still matched when the next character is another. */
+QVarLengthArray<int, 16> fallbacksOf(const QString &wanted)
 {
-public:
-    explicit Finder(const QString &wanted);
-
-    /** Where it next occurs in @p text from @p from on; -1 when it does not. */
-    [[nodiscard]] int next(const QString &text, int from) const;
-
-private:
-    const QString &m_wanted;
-    /** For each length matched, the longest shorter length that is matched as well. */
-    std::vector<int> m_fallbacks;
-};
-
-/** Up to this length going back costs less than the table does. */
-constexpr int shortest = 4;
-
-Finder::Finder(const QString &wanted)
-    : m_wanted(wanted)
-{
-    if (wanted.size() <= shortest) {
-        return;
-    }
-    m_fallbacks.assign(size_t(wanted.size()) + 1, 0);
-    for (int i = 1, matched = 0; i < wanted.size(); ++i) {
-        while (matched > 0 && wanted.at(i) != wanted.at(matched)) {
-            matched = m_fallbacks[size_t(matched)];
+    QVarLengthArray<int, 16> fallbacks(wanted.size());
+    fallbacks[0] = -1;
+    for (int i = 1, matched = 0; i < wanted.size(); ++i, ++matched) {
+        const bool isHopeless = wanted.at(i) == wanted.at(matched);
+        fallbacks[i] = isHopeless ? fallbacks[matched] : matched;
+        while (matched >= 0 && wanted.at(i) != wanted.at(matched)) {
+            matched = fallbacks[matched];
         }
-        matched += int(wanted.at(i) == wanted.at(matched));
-        m_fallbacks[size_t(i) + 1] = matched;
     }
+    return fallbacks;
 }
 
-int Finder::next(const QString &text, int from) const
+/** Appends a part; false when there are too many then. */
+bool append(const QString &text, int begin, int end, SplitText *parts)
 {
-    if (m_wanted.size() <= shortest) {
-        return text.indexOf(m_wanted, from);
-    }
-    for (int i = from, matched = 0; i < text.size(); ++i) {
-        while (matched > 0 && text.at(i) != m_wanted.at(matched)) {
-            matched = m_fallbacks[size_t(matched)];
-        }
-        matched += int(text.at(i) == m_wanted.at(matched));
-        if (matched == m_wanted.size()) {
-            return i + 1 - matched;
-        }
-    }
-    return -1;
-}
-
-void append(const QString &text, int begin, int end, SplitText *parts)
-{
-    if (begin == end) {
-        return;
-    }
     if (!parts->ends.isEmpty()) {
         parts->joined += QLatin1Char('\n');
     }
     parts->joined.append(text.constData() + begin, end - begin);
     parts->ends.append(parts->joined.size());
-}
-
-bool isFull(const SplitText &parts)
-{
-    return parts.ends.size() > mostOperationElements || parts.joined.size() > longestOperationText;
+    return parts->ends.size() <= mostOperationElements &&
+           parts->joined.size() <= longestOperationText;
 }
 
 } // namespace
@@ -98,21 +59,37 @@ QString unescapedSeparator(const QString &separator)
 SplitText splitText(const QString &text, const QString &separator)
 {
     SplitText parts;
+    parts.joined.reserve(std::min(text.size(), longestOperationText));
     if (separator.isEmpty()) {
-        for (int i = 0; i < text.size() && !isFull(parts); ++i) {
-            append(text, i, i + 1, &parts);
+        for (int i = 0; i < text.size() && append(text, i, i + 1, &parts); ++i) {
         }
         return parts;
     }
-    const Finder finder(separator);
+    // Never goes back in the text, however often it nearly matches: indexOf() does.
+    const QVarLengthArray<int, 16> fallbacks = fallbacksOf(separator);
+    const QChar *const characters = text.constData();
+    const QChar *const wanted = separator.constData();
+    const int size = text.size();
+    const int whole = separator.size();
     int begin = 0;
-    for (int end = finder.next(text, 0); end >= 0 && !isFull(parts);
-         end = finder.next(text, begin)) {
-        append(text, begin, end, &parts);
-        begin = end + separator.size();
+    for (int i = 0, matched = 0; i < size; ++i) {
+        if (matched == 0 && characters[i] != *wanted) {
+            continue;
+        }
+        while (matched >= 0 && characters[i] != wanted[matched]) {
+            matched = fallbacks[matched];
+        }
+        if (++matched == whole) {
+            const int end = i + 1 - whole;
+            if (begin != end && !append(text, begin, end, &parts)) {
+                return parts;
+            }
+            begin = i + 1;
+            matched = 0;
+        }
     }
-    if (!isFull(parts)) {
-        append(text, begin, text.size(), &parts);
+    if (begin != size) {
+        append(text, begin, size, &parts);
     }
     return parts;
 }

@@ -110,26 +110,24 @@ QString StepEvaluation::text(int argument)
 std::optional<double> StepEvaluation::number(int argument)
 {
     const OperationArgument &given = m_step.arguments[size_t(argument)];
-    switch (given.kind) {
-    case OperationArgument::Literal:
+    if (given.kind == OperationArgument::Literal) {
         return given.number;
-    case OperationArgument::Step: {
+    }
+    if (given.kind == OperationArgument::Step) {
         const OperationValue &value = m_results[size_t(given.index)].value;
-        if (value.hasResult()) {
-            return afford(value.charactersToRead()) ? value.number() : std::nullopt;
+        if (value.hasResult() && afford(value.charactersToRead())) {
+            return value.number();
         }
-        break;
     }
-    case OperationArgument::Variable:
-        if (given.index < m_values.size()) {
-            const QString &value = m_values.at(given.index);
-            return afford(value.size()) ? numberOf(value) : std::nullopt;
-        }
-        break;
-    case OperationArgument::Absent:
-        break;
+    if (given.kind == OperationArgument::Variable && given.index < m_values.size()) {
+        const QString &value = m_values.at(given.index); // taking a reference is half of the work
+        return afford(value.size()) ? numberOf(value) : std::nullopt;
     }
-    return numberOf(text(argument));
+    const QString written = text(argument);
+    if (afford(written.size())) {
+        return numberOf(written);
+    }
+    return {};
 }
 
 std::optional<int> StepEvaluation::integer(int argument)

@@ -18,8 +18,10 @@ QString OperationValue::text() const
 
 std::optional<double> OperationValue::number() const
 {
-    const bool isNumber = m_kind == Kind::ShortNumber || m_kind == Kind::FixedNumber;
-    return isNumber ? m_number : numberOf(m_text);
+    if (m_kind == Kind::ShortNumber || m_kind == Kind::FixedNumber) {
+        return m_number;
+    }
+    return numberOf(m_text);
 }
 
 QString OperationValue::at(int index) const
@@ -40,12 +42,21 @@ QStringList OperationValue::list() const
 
 void OperationValue::clear()
 {
-    set(Kind::None, {});
+    // Most are numbers: assigning nothing to nothing would be half of what clearing them costs.
+    m_kind = Kind::None;
+    if (!m_text.isNull()) {
+        m_text = QString();
+    }
+    if (!m_ends.isEmpty()) {
+        m_ends = QVector<int>();
+    }
 }
 
 void OperationValue::setText(const QString &text)
 {
-    set(Kind::Text, text);
+    clear();
+    m_kind = Kind::Text;
+    m_text = text;
 }
 
 void OperationValue::setShortNumber(double number)
@@ -55,7 +66,8 @@ void OperationValue::setShortNumber(double number)
         setText(shortText(number));
         return;
     }
-    set(Kind::ShortNumber, {});
+    clear();
+    m_kind = Kind::ShortNumber;
     m_number = *rounded;
 }
 
@@ -66,20 +78,16 @@ void OperationValue::setFixedNumber(double number, int places)
         setText(fixedText(number, places));
         return;
     }
-    set(Kind::FixedNumber, {});
+    clear();
+    m_kind = Kind::FixedNumber;
     m_number = *rounded;
     m_places = static_cast<signed char>(places);
 }
 
 void OperationValue::setList(const QString &joined, const QVector<int> &ends)
 {
-    set(Kind::List, joined, ends);
-}
-
-void OperationValue::set(Kind kind, const QString &text, const QVector<int> &ends)
-{
-    m_kind = kind;
-    m_text = text;
+    m_kind = Kind::List;
+    m_text = joined;
     m_ends = ends;
 }
 

@@ -46,8 +46,6 @@ public:
 private:
     enum class Kind : signed char { None, Text, ShortNumber, FixedNumber, List };
 
-    void set(Kind kind, const QString &text, const QVector<int> &ends = {});
-
     QString m_text;
     QVector<int> m_ends;
     double m_number = 0;

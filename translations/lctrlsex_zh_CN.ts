@@ -629,6 +629,73 @@
     </message>
 </context>
 <context>
+    <name>Operation</name>
+    <message>
+        <source>%1: argument %2, &quot;%3&quot;, is not a number.</source>
+        <translation>%1：第 %2 个参数“%3”不是数字。</translation>
+    </message>
+    <message>
+        <source>%1: argument %2 is empty, because %3 is computed later.</source>
+        <translation>%1：第 %2 个参数为空，因为 %3 在后面才计算。</translation>
+    </message>
+    <message>
+        <source>%1: argument %2 is empty, because %3 refers to itself.</source>
+        <translation>%1：第 %2 个参数为空，因为 %3 引用了自身。</translation>
+    </message>
+    <message>
+        <source>%1: argument %2 is empty, because there is no step %3.</source>
+        <translation>%1：第 %2 个参数为空，因为没有步骤 %3。</translation>
+    </message>
+    <message>
+        <source>%1: argument %2 is empty, because %3 has no result.</source>
+        <translation>%1：第 %2 个参数为空，因为 %3 没有结果。</translation>
+    </message>
+    <message>
+        <source>%1: the result is longer than %2 characters.</source>
+        <translation>%1：结果超过 %2 个字符。</translation>
+    </message>
+    <message>
+        <source>%1: the list has more than %2 parts.</source>
+        <translation>%1：列表超过 %2 项。</translation>
+    </message>
+    <message>
+        <source>%1: the steps so far have handled more than %2 characters; use shorter texts or fewer steps.</source>
+        <translation>%1：到此为止的步骤已处理超过 %2 个字符；请使用更短的文本或减少步骤。</translation>
+    </message>
+    <message>
+        <source>%1: &quot;%2&quot; needs at least %3 arguments, has %4.</source>
+        <translation>%1：“%2”至少需要 %3 个参数，现有 %4 个。</translation>
+    </message>
+    <message>
+        <source>%1: &quot;%2&quot; needs %3 arguments, has %4.</source>
+        <translation>%1：“%2”需要 %3 个参数，现有 %4 个。</translation>
+    </message>
+    <message>
+        <source>The decimal range is 0-6, and if it exceeds this range, the boundary will be used</source>
+        <translation>小数位数的范围是 0-6，超出范围时使用边界值</translation>
+    </message>
+    <message>
+        <source>Step %1</source>
+        <translation>步骤 %1</translation>
+    </message>
+    <message>
+        <source>%1: there is no operator &quot;%2&quot;.</source>
+        <translation>%1：没有运算符“%2”。</translation>
+    </message>
+    <message>
+        <source>%1: position %2 is outside the list of %3.</source>
+        <translation>%1：位置 %2 超出共 %3 项的列表。</translation>
+    </message>
+    <message>
+        <source>%1: argument %2, &quot;%3&quot;, is not a whole number or is too large.</source>
+        <translation>%1：第 %2 个参数“%3”不是整数或过大。</translation>
+    </message>
+    <message>
+        <source>%1: argument %2, &quot;%3&quot;, is not a whole number or is too large; it counts as 0.</source>
+        <translation>%1：第 %2 个参数“%3”不是整数或过大，按 0 处理。</translation>
+    </message>
+</context>
+<context>
     <name>PastedText</name>
     <message>
         <source>The text was not inserted: it has %1 characters, and at most %2 can be inserted at once. Insert it in parts, or divide it into several items.</source>

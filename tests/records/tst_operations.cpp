@@ -103,10 +103,10 @@ void tst_Operations::yields_data()
     row("s=right,abcdef,2", "ef");
     row("s=right,abcdef,2147483647", "abcdef");
     row("s=left,abcdef,2147483648", "",
-        "s: argument 2, \"2147483648\", is not a whole number and counts as 0.");
+        "s: argument 2, \"2147483648\", is not a whole number or is too large; it counts as 0.");
     row("s=left,abcdef,${count}", "ab");
     row("var1=+,1,1 s=left,abcdef,var1", "",
-        "s: argument 2, \"var1\", is not a whole number and counts as 0.");
+        "s: argument 2, \"var1\", is not a whole number or is too large; it counts as 0.");
     row("s=left,abcdef", noResult, "s: \"left\" needs 2 arguments, has 1.");
     row("s=mid,abcdef,2,0", "");
     row("s=mid,abcdef,2,3", "cde");
@@ -125,7 +125,7 @@ void tst_Operations::yields_data()
         "s: position 3 is outside the list of 3.");
     row("var1=split,a;b,; s=index,var1,-1", noResult, "s: position -1 is outside the list of 2.");
     row("var1=split,a;b,; s=index,var1,x", noResult,
-        "s: argument 2, \"x\", is not a whole number.");
+        "s: argument 2, \"x\", is not a whole number or is too large.");
     row("list=split,a;b,; s=index,list,0", "a");
     row("list=split,a;b,; s=strcat,list,!", "list!");
     row("var1=split,a;b,; s=strcat,var1,!", "a\nb!");
@@ -134,7 +134,8 @@ void tst_Operations::yields_data()
     row("s=strcat,a,${speed},b,1", "a12.50b1");
     row("s=decimal,3.14159,9", "3.141590");
     row("s=decimal,-2.5,0", "-3");
-    row("s=decimal,2.5,1.0", noResult, "s: argument 2, \"1.0\", is not a whole number.");
+    row("s=decimal,2.5,1.0", noResult,
+        "s: argument 2, \"1.0\", is not a whole number or is too large.");
     row("var1=decimal,2,2 s=strcat,var1,", "2.00");
     row("s=Left,abc,1", noResult, "s: there is no operator \"Left\".");
     row("=%2,1", noResult, "Step 1: there is no operator \"%2\".");
