@@ -17,7 +17,8 @@ bool isDigit(QChar c)
     return c >= QLatin1Char('0') && c <= QLatin1Char('9');
 }
 
-/** Up to 15 digits with or without decimals: both parts are exact, so that one division rounds. */
+/** Up to 16 digits, 15 with decimals: these are exact as the divisor is, so that one step rounds.
+ */
 bool readPlain(const QString &text, double *number)
 {
     const QChar *next = text.constBegin();
@@ -38,9 +39,6 @@ bool readPlain(const QString &text, double *number)
         } else {
             return false;
         }
-    }
-    if (point == nullptr && size > 15) {
-        return false;
     }
     const auto decimals = point == nullptr ? 0 : end - point - 1;
     const double magnitude = double(digits) / powersOfTen[size_t(decimals)];

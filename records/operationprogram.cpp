@@ -2,6 +2,9 @@
 
 #include "operationnumber.h"
 
+#include <QHash>
+#include <QSet>
+
 namespace lctrlsex {
 
 namespace {
@@ -12,8 +15,8 @@ struct OperationNames
     QHash<QString, int> variables;
     /** The last step of a name so far. */
     QHash<QString, int> earlier;
-    /** How many steps of a name are still to come, the present one included. */
-    QHash<QString, int> rest;
+    /** The names of all steps. */
+    QSet<QString> steps;
 };
 
 QString withoutBraces(QString text)
@@ -34,7 +37,7 @@ OperationProblem flawOf(const QString &name, const QString &own, const Operation
     if (name == own) {
         return OperationProblem::OwnStep;
     }
-    return names.rest.value(name) > 0 ? OperationProblem::LaterStep : OperationProblem::NoSuchStep;
+    return names.steps.contains(name) ? OperationProblem::LaterStep : OperationProblem::NoSuchStep;
 }
 
 OperationArgument compileArgument(const QString &text, const QString &step,
@@ -96,14 +99,13 @@ std::vector<OperationStep> compileSteps(const CalculationCondition &calculation,
         names.variables.insert(variables.at(i), i);
     }
     for (const CalculationStep &step : calculation.expressions) {
-        ++names.rest[step.variableName];
+        names.steps.insert(step.variableName);
     }
     std::vector<OperationStep> steps;
     steps.reserve(size_t(calculation.expressions.size()));
     for (const CalculationStep &given : calculation.expressions) {
         steps.push_back(compileStep(given, names));
         names.earlier.insert(given.variableName, int(steps.size()) - 1);
-        --names.rest[given.variableName];
     }
     return steps;
 }

@@ -4,8 +4,6 @@
 #include "operationresult.h"
 #include "operationtable.h"
 
-#include <QHash>
-
 #include <optional>
 #include <vector>
 

@@ -98,6 +98,7 @@ void tst_Operations::yields_data()
     row("var1=-,0,0.0000001 s=/,5,var1", "5");
     row("s=+,${speed},}", noResult, "s: argument 2, \"\", is not a number.");
     row("s=+,speed},${count", "14.5");
+    row("s=strcat,a}\n,${${b}}", "a\n${b}");
     row("s=left,abcdef,-3", "");
     row("s=left,abcdef,2", "ab");
     row("s=right,abcdef,2", "ef");
@@ -231,12 +232,15 @@ void tst_Operations::clampsPlacesAndSaysSo()
 
 void tst_Operations::oneStepIsEvaluatedAsInTheChain()
 {
-    const QString steps = "var1=+,1,%1 var2=*,var1,2 var3=split,a;b,;";
-    Evaluated before(steps.arg(1));
-    const Evaluated after(steps.arg(2));
+    const QString steps =
+        "var1=+,1,%1 var2=*,var1,2 var3=split,a;b,; var4=decimal,1,%1 var5=+,%2,1";
+    Evaluated before(steps.arg("7", "x"));
+    const Evaluated after(steps.arg("2", "1"));
     for (int i = 0; i < after.chain.stepCount(); ++i) {
         after.chain.evaluateStep(i, after.values, &before.results);
-        QCOMPARE(before.results[size_t(i)].value.text(), after.results[size_t(i)].value.text());
+        const OperationResult &result = before.results[size_t(i)];
+        QCOMPARE(result.value.text(), after.results[size_t(i)].value.text());
+        QVERIFY(result.problem == OperationProblem::None && !result.isPlacesClamped);
     }
     QCOMPARE(before.results[1].value.text(), QString("6"));
 }
