@@ -232,10 +232,9 @@ void tst_Operations::clampsPlacesAndSaysSo()
 
 void tst_Operations::oneStepIsEvaluatedAsInTheChain()
 {
-    const QString steps =
-        "var1=+,1,%1 var2=*,var1,2 var3=split,a;b,; var4=decimal,1,%1 var5=+,%2,1";
-    Evaluated before(steps.arg("7", "x"));
-    const Evaluated after(steps.arg("2", "1"));
+    const QString steps = "var1=+,1,%1 var2=*,var1,2 var3=split,a;b,; var4=%2";
+    Evaluated before(steps.arg("7", "decimal,x,7"));
+    const Evaluated after(steps.arg("2", "+,1,1"));
     for (int i = 0; i < after.chain.stepCount(); ++i) {
         after.chain.evaluateStep(i, after.values, &before.results);
         const OperationResult &result = before.results[size_t(i)];
@@ -268,6 +267,8 @@ void tst_Operations::limits_data()
     QTest::newRow("longer") << longest << "s=strcat,text,b" << false << "longer than 1048576";
     QTest::newRow("cut") << longest + "b"
                          << "s=left,text,1048577" << false << "longer than";
+    QTest::newRow("split") << longest + ";b"
+                           << "s=split,text,;" << false << "longer than 1048576";
     QTest::newRow("parts") << parts << "s=split,text,;" << true << "";
     QTest::newRow("more parts") << parts + "a"
                                 << "s=split,text,;" << false << "than 65536 parts";
@@ -322,7 +323,7 @@ void tst_Operations::hugeChainsEndSoon()
         }
         QVERIFY(characters <= mostOperationCharacters);
     }
-    QVERIFY2(timer.elapsed() < 2000, qPrintable(QString::number(timer.elapsed())));
+    QVERIFY2(timer.elapsed() < 10000, qPrintable(QString::number(timer.elapsed())));
 }
 
 QTEST_APPLESS_MAIN(tst_Operations)
