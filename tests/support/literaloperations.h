@@ -69,14 +69,18 @@ private:
         return QString::number(value, 'f', 6).remove(zeros).remove(point);
     }
 
-    static QString separator(QString text)
+    static QString separator(const QString &text)
     {
         static const QRegularExpression escape("\\\\[nrt\\\\]");
         const QMap<QChar, QChar> meanings{{'n', '\n'}, {'r', '\r'}, {'t', '\t'}, {'\\', '\\'}};
-        for (int from = 0; (from = text.indexOf(escape, from)) >= 0; ++from) {
-            text.replace(from, 2, meanings[text[from + 1]]);
+        QString result;
+        int from = 0;
+        for (auto matches = escape.globalMatch(text); matches.hasNext();) {
+            const int start = matches.next().capturedStart();
+            result += text.mid(from, start - from) + meanings[text[start + 1]];
+            from = start + 2;
         }
-        return text;
+        return result + text.mid(from);
     }
 
     QVariant valueOf(const FunctionCall &call) const
