@@ -227,8 +227,8 @@ void StepEvaluation::index()
     } else if (*position < 0 || *position >= list->count()) {
         fail(OperationProblem::OutsideTheList, 1);
     } else {
-        const QString element = list->at(*position);
-        setPart(element, 0, element.size());
+        const int begin = list->beginOf(*position);
+        setPart(list->text(), begin, list->endOf(*position) - begin);
     }
 }
 

@@ -26,8 +26,17 @@ std::optional<double> OperationValue::number() const
 
 QString OperationValue::at(int index) const
 {
-    const int begin = index == 0 ? 0 : m_ends.at(index - 1) + 1;
-    return m_text.mid(begin, m_ends.at(index) - begin);
+    return m_text.mid(beginOf(index), endOf(index) - beginOf(index));
+}
+
+int OperationValue::beginOf(int index) const
+{
+    return index == 0 ? 0 : m_ends.at(index - 1) + 1;
+}
+
+int OperationValue::endOf(int index) const
+{
+    return m_ends.at(index);
 }
 
 QStringList OperationValue::list() const

@@ -31,6 +31,9 @@ public:
     [[nodiscard]] int count() const { return m_ends.size(); }
     /** The element of @p index, from 0 to count() - 1. */
     [[nodiscard]] QString at(int index) const;
+    /** Where the element of @p index begins and ends in text(). */
+    [[nodiscard]] int beginOf(int index) const;
+    [[nodiscard]] int endOf(int index) const;
     /** The elements; empty for what is no list. */
     [[nodiscard]] QStringList list() const;
 

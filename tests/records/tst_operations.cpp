@@ -304,9 +304,11 @@ void tst_Operations::hugeChainsEndSoon()
     QVector<QString> values{QString(longestOperationText, 'a'), nearly, nearly.mid(100000)};
     CalculationCondition many;
     for (int i = 0; i < 100000; ++i) {
-        const QStringList arguments[] = {{"long", "nearly"}, {"nearly", "b"}, {"var7", "var7"}};
+        const QString functions[] = {"strcat", "split", "index"};
+        const QStringList arguments[] = {
+            {"long", ""}, {"long", ";"}, {"var1", "0"}, {"nearly", "part"}, {"var7", "var7"}};
         many.expressions.append(
-            {"var" + QString::number(i % 10), {i % 2 ? "split" : "strcat", arguments[i % 3]}});
+            {"var" + QString::number(i % 10), {functions[i % 3], arguments[i / 2 % 5]}});
     }
     CalculationCondition wide;
     wide.expressions.append({"var1", {"strcat", QVector<QString>(100000, "long").toList()}});
