@@ -136,6 +136,18 @@ def records():
         write("recordsjson", f"text-{i}", text.encode())
 
 
+def conditions():
+    numbers = ["12", "-.5", "", "-", "5.", ".", "--5", "+5", "1e400", "9" * 400, "\u0665", "\uff15"]
+    for i, number in enumerate(numbers):
+        for k, frame in enumerate([">{}", ">= {}\n", "=={}|{}", "({},{})", "[ {} , {} )|5"]):
+            write("conditionexpression", f"number-{i}-{k}", frame.replace("{}", number).encode())
+    for i, pattern in enumerate(["^[A-Z].*", "(a+)+$", "(?R)?a", "(*UCP)a", "(a", "[5,10)", "\\",
+                                 ".{0,100}.{0,100}[xy]", "(?:(?!.*x)a)*y", "(a?)(\\g<1>\\g<1>)"]):
+        write("conditionexpression", f"pattern-{i}", f"{pattern}|{'a' * 40}b".encode())
+    for i, text in enumerate([">5\ud800", "\udc00|\ud83d\ude00", "(\0,5)", "(5,5)\n\n"]):
+        write("conditionexpression", f"wide-{i}", b"w" + text.encode("utf-16-le", "surrogatepass"))
+
+
 def choices():
     for target, longest in (("storedtext", 400), ("fragmentmerge", 150), ("operations", 300)):
         for i in range(60):
@@ -149,4 +161,5 @@ texts()
 markup()
 units()
 records()
+conditions()
 choices()

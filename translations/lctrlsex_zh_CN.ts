@@ -2,6 +2,117 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="zh_CN">
 <context>
+    <name>ConditionTexts</name>
+    <message>
+        <source>&quot;%1&quot;</source>
+        <translation>“%1”</translation>
+    </message>
+    <message>
+        <source>%1 is greater than %2</source>
+        <translation>%1 大于 %2</translation>
+    </message>
+    <message>
+        <source>%1 is not greater than %2</source>
+        <translation>%1 不大于 %2</translation>
+    </message>
+    <message>
+        <source>%1 is less than %2</source>
+        <translation>%1 小于 %2</translation>
+    </message>
+    <message>
+        <source>%1 is not less than %2</source>
+        <translation>%1 不小于 %2</translation>
+    </message>
+    <message>
+        <source>%1 is at least %2</source>
+        <translation>%1 大于或等于 %2</translation>
+    </message>
+    <message>
+        <source>%1 is not at least %2</source>
+        <translation>%1 未达到 %2</translation>
+    </message>
+    <message>
+        <source>%1 is at most %2</source>
+        <translation>%1 小于或等于 %2</translation>
+    </message>
+    <message>
+        <source>%1 is not at most %2</source>
+        <translation>%1 超过 %2</translation>
+    </message>
+    <message>
+        <source>%1 equals %2</source>
+        <translation>%1 等于 %2</translation>
+    </message>
+    <message>
+        <source>%1 does not equal %2</source>
+        <translation>%1 不等于 %2</translation>
+    </message>
+    <message>
+        <source>%1 (condition %2)</source>
+        <translation>%1（条件 %2）</translation>
+    </message>
+    <message>
+        <source>%1 names no number and never holds</source>
+        <translation>%1 没有给出数字，永远不成立</translation>
+    </message>
+    <message>
+        <source>%1 never holds, because &quot;%2&quot; is not a number</source>
+        <translation>%1 永远不成立，因为“%2”不是数字</translation>
+    </message>
+    <message>
+        <source>%1 is not a number, so %2 cannot hold</source>
+        <translation>%1 不是数字，因此 %2 不成立</translation>
+    </message>
+    <message>
+        <source>%1 lies in %2</source>
+        <translation>%1 在 %2 之内</translation>
+    </message>
+    <message>
+        <source>%1 does not lie in %2</source>
+        <translation>%1 不在 %2 之内</translation>
+    </message>
+    <message>
+        <source>the pattern %1 is found in %2</source>
+        <translation>在 %2 中找到模式 %1</translation>
+    </message>
+    <message>
+        <source>the pattern %1 is broken at character %2: %3</source>
+        <translation>模式 %1 在第 %2 个字符处有误：%3</translation>
+    </message>
+    <message>
+        <source>the pattern %1 is longer than %2 characters and not searched for</source>
+        <translation>模式 %1 超过 %2 个字符，不进行查找</translation>
+    </message>
+    <message>
+        <source>the value %1 is longer than %2 characters and not searched for %3</source>
+        <translation>值 %1 超过 %2 个字符，不在其中查找 %3</translation>
+    </message>
+    <message>
+        <source>searching %2 for the pattern %1 takes too long</source>
+        <translation>在 %2 中查找模式 %1 耗时过长</translation>
+    </message>
+    <message>
+        <source>the patterns before %1 took all the time of this refresh</source>
+        <translation>%1 之前的模式已用完本次刷新的时间</translation>
+    </message>
+    <message>
+        <source>the pattern %1 is not found in %2</source>
+        <translation>在 %2 中未找到模式 %1</translation>
+    </message>
+    <message>
+        <source>the condition is empty and never holds</source>
+        <translation>条件为空，永远不成立</translation>
+    </message>
+    <message>
+        <source>there is no value, so %1 cannot hold</source>
+        <translation>没有值，因此 %1 不成立</translation>
+    </message>
+    <message>
+        <source>%1 (it is stored as a regular expression, not as a comparison)</source>
+        <translation>%1（该条件按正则表达式而非比较保存）</translation>
+    </message>
+</context>
+<context>
     <name>DocumentStorage</name>
     <message>
         <source>The stored text is cut off at character %1; restore it from a copy.</source>
