@@ -72,6 +72,9 @@ public:
     [[nodiscard]] ConditionAnswer explain(const ConditionValue &value,
                                           PatternBudget *budget = nullptr) const;
 
+    /** Why it holds for no value at all, in words as above; empty when there may be one. */
+    [[nodiscard]] QString flaw() const;
+
 private:
     void setComparison(ConditionDetail *detail);
     void setInterval(ConditionDetail *detail);

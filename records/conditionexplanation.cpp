@@ -147,4 +147,15 @@ ConditionAnswer Condition::explain(const ConditionValue &value, PatternBudget *b
             : reason};
 }
 
+QString Condition::flaw() const
+{
+    const ConditionDetail &detail = *m_detail;
+    bool isFlawed = detail.text.isEmpty() || detail.nonNumber;
+    if (!isFlawed && detail.pattern) {
+        const PatternSearch::Result result = detail.pattern->search(QStringLiteral(""));
+        isFlawed = result == PatternSearch::Broken || result == PatternSearch::PatternTooLong;
+    }
+    return isFlawed ? explain(ConditionValue(QStringLiteral(""))).explanation : QString();
+}
+
 } // namespace lctrlsex

@@ -1151,6 +1151,41 @@
     </message>
 </context>
 <context>
+    <name>RecordsCheck</name>
+    <message>
+        <source>conditional styles</source>
+        <translation>条件样式</translation>
+    </message>
+    <message>
+        <source>calculations</source>
+        <translation>运算</translation>
+    </message>
+    <message>
+        <source>they cannot be read from character %1 on: %2</source>
+        <translation>从第 %1 个字符起无法读取：%2</translation>
+    </message>
+    <message>
+        <source>mend them in the programme file or set them anew</source>
+        <translation>请在节目文件中修正，或重新设置</translation>
+    </message>
+    <message>
+        <source>conditional style %1, condition %2</source>
+        <translation>条件样式 %1，条件 %2</translation>
+    </message>
+    <message>
+        <source>change the condition or delete it</source>
+        <translation>请修改或删除该条件</translation>
+    </message>
+    <message>
+        <source>calculation %1</source>
+        <translation>运算 %1</translation>
+    </message>
+    <message>
+        <source>change the step or delete it</source>
+        <translation>请修改或删除该步骤</translation>
+    </message>
+</context>
+<context>
     <name>TextEdit</name>
     <message>
         <source>Text</source>

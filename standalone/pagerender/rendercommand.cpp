@@ -7,6 +7,7 @@
 #include "ltexteffectnode.h"
 #include "pagefile.h"
 #include "programmeitems.h"
+#include "recordscheck.h"
 #include "report.h"
 
 #include <QDir>
@@ -142,6 +143,7 @@ bool checkProgramme(LControllerNode *programme, const CommandLine &line, Report 
         ItemRenderer renderer(items.at(i).node, items.at(i).place, line.size);
         report->problems(renderer.problems());
         report->problems(player::checkItem(&renderer));
+        report->problems(player::checkRecords(items.at(i).node, items.at(i).place));
     }
     return report->problemCount() == 0;
 }

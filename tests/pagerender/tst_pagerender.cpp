@@ -97,6 +97,7 @@ private slots:
     void unwritableOutput();
     void check_data();
     void check();
+    void checksRecords();
     void opensNothingOutside();
 };
 
@@ -382,6 +383,35 @@ void TestPagerender::check()
         pagerender({QStringLiteral("check"), QStringLiteral("-")}, documentProgramme(html));
     QCOMPARE(outcome.status, says.isEmpty() ? 0 : 1);
     QVERIFY2(says.isEmpty() || outcome.err.contains(says), qPrintable(outcome.err));
+}
+
+void TestPagerender::checksRecords()
+{
+    const auto said = [](const QString &styles, const QString &calculation) {
+        const QJsonObject attributes{{QStringLiteral("SpanConditions"), styles},
+                                     {QStringLiteral("Calculation"), calculation}};
+        return pagerender({QStringLiteral("check"), QStringLiteral("-")},
+                          programme({{QStringLiteral("document"), dejavu(QStringLiteral("Fine"))},
+                                     {QStringLiteral("attributes"), attributes}}))
+            .err;
+    };
+    QCOMPARE(said(R"([{"name":"Storm","conditions":[{"expression":[">9"]}]}])",
+                  R"([{"key":"sum","expressions":[{"variableName":"var1","expression":
+                     {"func":"+","args":["${weather:wind}","1"]}}]}])"),
+             QStringLiteral("nothing to mend\n"));
+    const QString broken = said(R"x([{"name":"Storm","conditions":[{"type":1,"expression":["a(b"]},
+                                    {"expression":["(-,3)"]},{}]}])x",
+                                R"([{"key":"sum","expressions":[{"variableName":"var1","expression":
+                                   {"func":"+","args":["var2","1"]}},{"variableName":"var2",
+                                   "expression":{"func":"power","args":[]}}]}])");
+    for (const char *reason :
+         {"Storm, condition 1: the pattern a(b is broken at character 4",
+          "condition 2: (-,3) never", "condition 3: the condition is empty",
+          "calculation sum: var1: argument 1 is empty", "there is no operator \"power\""}) {
+        QVERIFY2(broken.contains(QLatin1String(reason)), qPrintable(broken));
+    }
+    QVERIFY(said(QStringLiteral("[{"), QStringLiteral("[]"))
+                .contains(QStringLiteral("they cannot be read from character 2 on")));
 }
 
 void TestPagerender::opensNothingOutside()

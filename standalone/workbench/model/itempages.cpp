@@ -6,6 +6,7 @@
 #include "ltranslation.h"
 #include "pagefiles.h"
 #include "programmedocument.h"
+#include "recordscheck.h"
 #include "treewatch.h"
 
 #include <QElapsedTimer>
@@ -235,7 +236,9 @@ int ItemPages::pageCount(LTextEffectNode *node)
 player::Problems ItemPages::problems(LTextEffectNode *node)
 {
     player::ItemRenderer *const pages = renderer(node);
-    return pages ? pages->problems() + player::checkItem(pages) : player::Problems();
+    return pages ? pages->problems() + player::checkItem(pages) +
+                       player::checkRecords(node, pages->place())
+                 : player::Problems();
 }
 
 } // namespace workbench
