@@ -66,6 +66,12 @@ bool ItemTimeline::keepsPages() const
     return m_play.isContinuous || m_play.isLcd || m_play.clearEffect == LEffectNode::KeepPage;
 }
 
+qint64 ItemTimeline::startOf(int page, int round) const
+{
+    const qint64 pages = qint64(qMax(0, round)) * m_play.pageCount + qMax(0, page);
+    return boundedProduct(pageTime(), pages);
+}
+
 PlayMoment ItemTimeline::at(qint64 elapsed) const
 {
     const bool isOver = elapsed >= m_duration;
@@ -78,6 +84,7 @@ PlayMoment ItemTimeline::at(qint64 elapsed) const
         return moment;
     }
     qint64 passed = time % pageTime();
+    moment.pageElapsed = passed;
     qint64 whole = m_comingIn;
     moment.phase = PlayPhase::ComingIn;
     if (passed >= whole) {

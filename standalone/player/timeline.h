@@ -21,6 +21,7 @@ struct PlayMoment
     int page = 0;                ///< From 0; the last one that was shown when it is over.
     int round = 0;               ///< From 0.
     double progress = 1;         ///< Of the phase, 0 to less than 1; 1 when it is over.
+    qint64 pageElapsed = 0;      ///< Since the page began to come.
     qint64 millisecondsLeft = 0; ///< Until something else begins, at least 1; 0 when it is over.
 };
 
@@ -42,6 +43,8 @@ public:
     [[nodiscard]] qint64 duration() const { return m_duration; }
     /** A time below 0 is the beginning. */
     [[nodiscard]] PlayMoment at(qint64 elapsed) const;
+    /** When a page begins to come in, which may be after the item is over. */
+    [[nodiscard]] qint64 startOf(int page, int round) const;
     /** Whether a page stays where it is until another one covers it. */
     [[nodiscard]] bool keepsPages() const;
 

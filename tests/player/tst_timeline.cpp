@@ -120,6 +120,7 @@ void TestTimeline::odd()
         const PlayMoment moment = timeline.at(elapsed);
         QVERIFY(moment.phase != PlayPhase::Over && moment.millisecondsLeft > 0);
         QVERIFY(moment.progress >= 0 && moment.progress < 1);
+        QCOMPARE(timeline.startOf(moment.page, moment.round) + moment.pageElapsed, elapsed);
         QVERIFY(moment.page >= 0 && moment.page < std::max(1, play.pageCount));
         QCOMPARE(frame.at(timeline.duration() + elapsed).item, 1);
     }
