@@ -9,7 +9,7 @@ namespace player {
 namespace {
 
 /** Far below the largest number, so that a frame of many such items has a sum, too. */
-constexpr qint64 LongestTime = Q_INT64_C(1000000000000);
+constexpr qint64 LongestTime = Q_INT64_C(10000000000000);
 
 /** @p a times @p b, neither below 0, but no more than the longest time. */
 qint64 boundedProduct(qint64 a, qint64 b)

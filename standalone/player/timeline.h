@@ -30,7 +30,7 @@ struct PlayMoment
  *
  * Each page comes in, is held and cleared; after the last one the next round begins. Rounds or
  * seconds of 0 and below play one round, or until the first page has been there for a moment;
- * no pages at all are played as one. Times are in milliseconds and cut at some thirty years.
+ * no pages at all are played as one. Times are in milliseconds and cut at some three hundred years.
  */
 class ItemTimeline
 {

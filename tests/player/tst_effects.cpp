@@ -178,8 +178,10 @@ void TestEffects::bearAnySize()
     const QImage before = picture(under, 60).convertToFormat(QImage::Format_RGB888);
     const QImage after = picture(page, 200);
     const QSize expected = page.isEmpty() ? under : page;
+    const bool isLarge = page.width() > 1000; // Once will do.
     for (const int effect : effects()) {
-        for (const double progress : {0.001, 0.4, 0.999}) {
+        for (const double progress :
+             isLarge ? QVector<double>{0.4} : QVector<double>{0.001, 0.4, 0.999}) {
             const QImage frame = effectFrame(effect, before, after, progress, 3);
             QCOMPARE(frame.size(), expected.isEmpty() ? QSize(0, 0) : expected);
             QCOMPARE(clearFrame(effect, after, progress, 3).size(), after.size());
