@@ -1932,6 +1932,18 @@ Free software under the MIT licence.</source>
         <source>&amp;Antialiasing Off</source>
         <translation>关闭抗锯齿(&amp;A)</translation>
     </message>
+    <message>
+        <source>Wall: Pa&amp;use</source>
+        <translation>显示墙：暂停(&amp;U)</translation>
+    </message>
+    <message>
+        <source>Wall: Pla&amp;y</source>
+        <translation>显示墙：播放(&amp;Y)</translation>
+    </message>
+    <message>
+        <source>Wall: S&amp;top</source>
+        <translation>显示墙：停止(&amp;T)</translation>
+    </message>
 </context>
 <context>
     <name>workbench::NodeDelegate</name>
@@ -2210,6 +2222,38 @@ Free software under the MIT licence.</source>
     <message>
         <source>No screen is selected. Select one in the programme to see it here.</source>
         <translation>未选择屏幕。在节目中选择一个即可在此查看。</translation>
+    </message>
+    <message>
+        <source>Stop and show the edited page (Shift+F5)</source>
+        <translation>停止并显示正在编辑的页面 (Shift+F5)</translation>
+    </message>
+    <message>
+        <source>Pause (F5)</source>
+        <translation>暂停 (F5)</translation>
+    </message>
+    <message>
+        <source>Play the screen (F5)</source>
+        <translation>播放屏幕 (F5)</translation>
+    </message>
+    <message>
+        <source>coming in</source>
+        <translation>显示中</translation>
+    </message>
+    <message>
+        <source>going out</source>
+        <translation>清除中</translation>
+    </message>
+    <message>
+        <source>held</source>
+        <translation>停留</translation>
+    </message>
+    <message>
+        <source>%1:%2</source>
+        <translation>%1:%2</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1，%2</translation>
     </message>
 </context>
 <context>

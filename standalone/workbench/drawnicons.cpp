@@ -59,6 +59,21 @@ void drawSign(QPainter *painter, Drawing drawing)
     }
 }
 
+/** What is on the keys of a recorder. */
+void drawPlaying(QPainter *painter, Drawing drawing, const QColor &color)
+{
+    painter->setPen(penOf(color, 1.2));
+    painter->setBrush(color);
+    if (drawing == Drawing::Play) {
+        painter->drawPolygon(QPolygonF({{4.5, 3}, {13, 8}, {4.5, 13}}));
+    } else if (drawing == Drawing::Pause) {
+        painter->drawRect(QRectF(4, 3.5, 2.5, 9));
+        painter->drawRect(QRectF(9.5, 3.5, 2.5, 9));
+    } else {
+        painter->drawRect(QRectF(4, 4, 8, 8));
+    }
+}
+
 void drawNode(QPainter *painter, Drawing drawing, const QColor &color)
 {
     painter->setPen(penOf(color, 1.2));
@@ -120,6 +135,11 @@ void draw(QPainter *painter, Drawing drawing, const QColor &color)
         break;
     case Drawing::Next:
         drawChevron(painter, color, 90);
+        break;
+    case Drawing::Play:
+    case Drawing::Pause:
+    case Drawing::Stop:
+        drawPlaying(painter, drawing, color);
         break;
     case Drawing::Close:
         painter->setPen(penOf(color, 1.5));

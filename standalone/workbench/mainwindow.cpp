@@ -200,6 +200,7 @@ void MainWindow::changeEvent(QEvent *event)
         retranslate();
     } else if (event->type() == QEvent::PaletteChange) {
         m_structure->updateIcons();
+        updatePlayIcons();
     }
     QMainWindow::changeEvent(event);
 }

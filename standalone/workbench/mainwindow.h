@@ -87,6 +87,9 @@ private:
     void buildEditMenu();
     void buildTextMenu();
     void buildViewMenu();
+    void buildPlayActions(QMenu *menu);
+    void updatePlayActions();
+    void updatePlayIcons();
     void buildPaletteMenu();
     void buildLanguageMenu();
     /** Gives a new menu its object name, and its title in every language. */
@@ -175,6 +178,8 @@ private:
     QVector<QAction *> m_conversions;
     QAction *m_antialiasingOff = nullptr; ///< One of them.
     QAction *m_ledGrid = nullptr;
+    QAction *m_play = nullptr;
+    QAction *m_stop = nullptr;
     QMenu *m_recentMenu = nullptr;
     QActionGroup *m_palettes = nullptr;
     QActionGroup *m_languages = nullptr;

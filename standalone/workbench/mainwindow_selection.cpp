@@ -75,7 +75,8 @@ void MainWindow::letGoOf(LNode *node)
 {
     if (m_editor->node() != nullptr && isWithin(m_editor->node(), node)) {
         m_editor->bind(nullptr);
-        m_wall->clear();
+        // What plays goes on without the item, unless the screen goes with it.
+        m_wall->setCurrent(isWithin(m_wall->screen(), node) ? nullptr : m_wall->screen(), nullptr);
     }
     if (isWithin(m_layout->node(), node)) {
         m_layout->setNode(nullptr);

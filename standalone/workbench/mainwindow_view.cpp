@@ -1,6 +1,8 @@
+#include "drawnicons.h"
 #include "ltranslation.h"
 #include "mainwindow.h"
 #include "wallpanel.h"
+#include "wallplayer.h"
 #include "wallview.h"
 
 #include <QAction>
@@ -38,6 +40,8 @@ void MainWindow::buildViewMenu()
         menu->addAction(dock->toggleViewAction());
     }
     menu->addSeparator();
+    buildPlayActions(menu);
+    menu->addSeparator();
     WallView *wall = m_wall->view();
     addAction(
         menu, QStringLiteral("ZoomIn"), [] { return tr("Wall: &Larger Pixels"); },
@@ -65,6 +69,44 @@ void MainWindow::buildViewMenu()
     addAction(
         menu, QStringLiteral("ResetLayout"), [] { return tr("&Reset Layout"); },
         [this] { resetLayout(); });
+}
+
+void MainWindow::buildPlayActions(QMenu *menu)
+{
+    WallPlayer *player = m_wall->player();
+    const auto text = [player] {
+        return player->state() == WallPlayer::Playing ? tr("Wall: Pa&use") : tr("Wall: Pla&y");
+    };
+    m_play = addAction(menu, QStringLiteral("Play"), text, [player] { player->toggle(); });
+    m_play->setShortcut(QKeySequence(Qt::Key_F5));
+    m_stop = addAction(
+        menu, QStringLiteral("StopPlay"), [] { return tr("Wall: S&top"); },
+        [player] { player->stop(); });
+    m_stop->setShortcut(QKeySequence(Qt::SHIFT + Qt::Key_F5));
+    connect(player, &WallPlayer::stateChanged, this, [this] {
+        retranslateActions();
+        updatePlayActions();
+        updatePlayIcons();
+    });
+    connect(m_wall, &WallPanel::statusChanged, this, &MainWindow::updatePlayActions);
+    updatePlayActions();
+    updatePlayIcons();
+}
+
+void MainWindow::updatePlayActions()
+{
+    m_play->setEnabled(m_wall->screen() != nullptr);
+    m_stop->setEnabled(m_wall->player()->isOn());
+}
+
+void MainWindow::updatePlayIcons()
+{
+    if (m_play == nullptr) {
+        return; // The palette changes before there are menus, too.
+    }
+    const bool plays = m_wall->player()->state() == WallPlayer::Playing;
+    m_play->setIcon(drawnIcon(plays ? Drawing::Pause : Drawing::Play, palette()));
+    m_stop->setIcon(drawnIcon(Drawing::Stop, palette()));
 }
 
 void MainWindow::buildPaletteMenu()

@@ -5,6 +5,7 @@
 #include "lframenode.h"
 #include "lscreennode.h"
 #include "ltexteffectnode.h"
+#include "wallplayer.h"
 #include "wallview.h"
 
 #include <QComboBox>
@@ -32,6 +33,7 @@ WallPanel::WallPanel(ItemPages *pages, QWidget *parent)
     : QWidget(parent)
     , m_pages(pages)
     , m_view(new WallView(this))
+    , m_player(new WallPlayer(pages, m_view))
 {
     setObjectName(QStringLiteral("WallPanel"));
     m_rebuild.setSingleShot(true);
@@ -39,6 +41,7 @@ WallPanel::WallPanel(ItemPages *pages, QWidget *parent)
     connect(&m_rebuild, &QTimer::timeout, this, &WallPanel::rebuild);
     buildControls();
     connectView();
+    connectPlayer();
     connect(m_pages, &ItemPages::pagesChanged, this, &WallPanel::showPages);
     retranslate();
     updateIcons();
@@ -100,17 +103,18 @@ QVector<WallPanel::ShownItem> WallPanel::itemsOf(LScreenNode *screen) const
         if (frame == nullptr) {
             continue;
         }
-        LTextEffectNode *shown = nullptr;
+        const FramePlay *const play = m_player->playOf(frame);
+        LTextEffectNode *shown = play != nullptr ? play->item() : nullptr;
         const QList<LNode *> children = frame->ChildNodes();
         for (LNode *candidate : children) {
             auto *item = qobject_cast<LTextEffectNode *>(candidate);
-            if (item != nullptr && (shown == nullptr || item == m_item)) {
+            if (item != nullptr && (shown == nullptr || (play == nullptr && item == m_item))) {
                 shown = item;
             }
         }
         // An item that is smaller than its frame lies at the frame's corner.
         if (shown != nullptr) {
-            items.append({shown, QRect(frame->GetRect().topLeft(), shown->Size())});
+            items.append({child, shown, QRect(frame->GetRect().topLeft(), shown->Size())});
         }
     }
     return items;
@@ -122,6 +126,7 @@ void WallPanel::rebuild()
     unwatchAll();
     m_shown.clear();
     WallScene scene;
+    m_player->setScreen(m_screen);
     if (m_screen) {
         m_shown = itemsOf(m_screen);
         scene.size = m_screen->Size();
@@ -150,6 +155,9 @@ void WallPanel::rebuild()
 
 QImage WallPanel::pictureOf(LTextEffectNode *node) const
 {
+    if (const FramePlay *play = m_player->playOf(node->ParentNode())) {
+        return play->picture();
+    }
     // A page strip belongs to the current item only, so any other shows its first page.
     const int page = node == m_item ? node->GetCurrentPage() : 1;
     return m_pages->page(node, std::max(1, page) - 1);
@@ -157,8 +165,9 @@ QImage WallPanel::pictureOf(LTextEffectNode *node) const
 
 void WallPanel::showPages(LTextEffectNode *node)
 {
+    // What plays follows by itself.
     for (int i = 0; i < m_shown.size(); ++i) {
-        if (node != nullptr && m_shown.at(i).node == node) {
+        if (!m_player->isOn() && node != nullptr && m_shown.at(i).node == node) {
             m_view->setPage(i, pictureOf(node));
         }
     }
@@ -181,7 +190,8 @@ void WallPanel::followPage(int page)
 void WallPanel::showPreview()
 {
     for (int i = 0; i < m_shown.size(); ++i) {
-        if (m_item && m_shown.at(i).node == m_item && !m_item->PreviewCache().isNull()) {
+        if (!m_player->isOn() && m_item && m_shown.at(i).node == m_item &&
+            !m_item->PreviewCache().isNull()) {
             m_view->setPage(i, m_item->PreviewCache());
         }
     }
@@ -189,7 +199,7 @@ void WallPanel::showPreview()
 
 void WallPanel::turnTo(int page)
 {
-    if (m_item && page >= 1 && page <= m_item->GetPageCount()) {
+    if (!m_player->isOn() && m_item && page >= 1 && page <= m_item->GetPageCount()) {
         m_item->SetCurrentPage(page);
         m_item->PageChanged();
         emit statusChanged();

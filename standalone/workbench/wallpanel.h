@@ -15,15 +15,17 @@ class QToolButton;
 
 namespace workbench {
 
+class FramePlay;
 class ItemPages;
+class WallPlayer;
 class WallView;
 
 /**
  * The wall with its row of controls: the screen of the current node, the page strip of the current
- * item and the size of the pixels.
+ * item, the play and the size of the pixels.
  *
  * Of a frame with several items the current one is shown, else the first. The page of the item
- * that is being edited is the one that its node shows.
+ * that is being edited is the one that its node shows. While it plays, both are those of the play.
  */
 class WallPanel : public QWidget
 {
@@ -38,7 +40,9 @@ public:
     void clear();
 
     [[nodiscard]] WallView *view() const { return m_view; }
-    /** "Page 2 of 5"; empty without an item. */
+    [[nodiscard]] WallPlayer *player() const { return m_player; }
+    [[nodiscard]] LScreenNode *screen() const { return m_screen; }
+    /** "Page 2 of 5", of what plays in the current item's frame if it plays; empty without one. */
     [[nodiscard]] QString pageText() const;
     /** The zoom as it is shown: "4×", or "Fit (2×)". */
     [[nodiscard]] QString zoomText() const;
@@ -63,12 +67,14 @@ protected:
 private:
     struct ShownItem
     {
+        QPointer<LNode> frame;
         QPointer<LTextEffectNode> node;
         QRect rect;
     };
 
     void buildControls();
     void connectView();
+    void connectPlayer();
     void watch(LNode *node);
     void unwatchAll();
     /** Rebuilds the scene in the next turn of the event loop, once for any number of calls. */
@@ -81,6 +87,12 @@ private:
     void turnTo(int page);
     [[nodiscard]] QImage pictureOf(LTextEffectNode *node) const;
     [[nodiscard]] LTextEffectNode *nodeAt(int index) const;
+    /** What plays where the current item lies; null when nothing does. */
+    [[nodiscard]] const FramePlay *currentPlay() const;
+    void showPlayed(const LNode *frame);
+    void updatePlayControls();
+    void updatePlayTexts();
+    [[nodiscard]] QString pageOfText() const;
     void updateControls();
     void retranslate();
     void updateIcons();
@@ -94,9 +106,13 @@ private:
     int m_shownPage = 1; ///< Of the current item, from 1.
 
     WallView *m_view;
+    WallPlayer *m_player;
     QToolButton *m_previous;
     QLabel *m_pageLabel;
     QToolButton *m_next;
+    QToolButton *m_play;
+    QToolButton *m_stop;
+    QLabel *m_playLabel;
     QLabel *m_screenLabel;
     QToolButton *m_grid;
     QToolButton *m_zoomOut;

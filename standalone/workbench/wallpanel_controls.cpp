@@ -1,5 +1,6 @@
 #include "drawnicons.h"
 #include "wallpanel.h"
+#include "wallplayer.h"
 #include "wallview.h"
 
 #include <QComboBox>
@@ -34,6 +35,10 @@ void WallPanel::buildControls()
     m_pageLabel = new QLabel(this);
     m_pageLabel->setObjectName(QStringLiteral("WallPageLabel"));
     m_next = flatButton(QStringLiteral("WallNextPage"), this);
+    m_play = flatButton(QStringLiteral("WallPlay"), this);
+    m_stop = flatButton(QStringLiteral("WallStop"), this);
+    m_playLabel = new QLabel(this);
+    m_playLabel->setObjectName(QStringLiteral("WallPlayLabel"));
     m_screenLabel = new QLabel(this);
     m_screenLabel->setObjectName(QStringLiteral("WallScreenLabel"));
     m_screenLabel->setTextFormat(Qt::PlainText);
@@ -52,6 +57,10 @@ void WallPanel::buildControls()
     row->addWidget(m_previous);
     row->addWidget(m_pageLabel);
     row->addWidget(m_next);
+    row->addSpacing(6);
+    row->addWidget(m_play);
+    row->addWidget(m_stop);
+    row->addWidget(m_playLabel);
     row->addWidget(m_screenLabel, 1);
     row->addWidget(m_grid);
     row->addSpacing(6);
@@ -91,9 +100,9 @@ void WallPanel::updateControls()
 {
     const int page = m_item ? std::min(m_item->GetCurrentPage(), m_item->GetPageCount()) : 0;
     const int count = m_item ? m_item->GetPageCount() : 0;
-    m_pageLabel->setText(m_item ? tr("Page %1 of %2").arg(page).arg(count) : QString());
-    m_previous->setEnabled(page > 1);
-    m_next->setEnabled(page < count);
+    m_pageLabel->setText(pageOfText());
+    m_previous->setEnabled(!m_player->isOn() && page > 1);
+    m_next->setEnabled(!m_player->isOn() && page < count);
     m_previous->setVisible(count > 0);
     m_next->setVisible(count > 0);
     m_screenLabel->setText(m_screen ? tr("%1, %2 × %3 pixels")
@@ -101,6 +110,7 @@ void WallPanel::updateControls()
                                           .arg(m_screen->Size().width())
                                           .arg(m_screen->Size().height())
                                     : QString());
+    updatePlayControls();
     const WallScale scale = m_view->scale();
     const QString fitted =
         scale.divisor > 1 ? tr("Fit (1/%1)").arg(scale.divisor) : tr("Fit (%1×)").arg(scale.factor);
@@ -115,6 +125,9 @@ void WallPanel::updateIcons()
 {
     m_previous->setIcon(drawnIcon(Drawing::Previous, palette()));
     m_next->setIcon(drawnIcon(Drawing::Next, palette()));
+    const bool plays = m_player->state() == WallPlayer::Playing;
+    m_play->setIcon(drawnIcon(plays ? Drawing::Pause : Drawing::Play, palette()));
+    m_stop->setIcon(drawnIcon(Drawing::Stop, palette()));
     m_grid->setIcon(drawnIcon(Drawing::Grid, palette()));
 }
 
@@ -126,6 +139,7 @@ void WallPanel::retranslate()
     };
     name(m_previous, tr("Previous page (Page Up)"));
     name(m_next, tr("Next page (Page Down)"));
+    name(m_stop, tr("Stop and show the edited page (Shift+F5)"));
     name(m_grid, tr("Show pixels as round LEDs, from 4× on"));
     name(m_zoomOut, tr("Smaller pixels"));
     name(m_zoomIn, tr("Larger pixels"));

@@ -196,7 +196,10 @@ void WallView::paintEvent(QPaintEvent *event)
     }
     const QPoint corner = origin();
     painter.translate(corner);
-    paintWall(&painter, m_scene, m_scale, m_showsLeds, event->rect().translated(-corner));
+    // Part by part: items that play in opposite corners do not have all between them painted.
+    for (const QRect &part : event->region()) {
+        paintWall(&painter, m_scene, m_scale, m_showsLeds, part.translated(-corner));
+    }
     paintWallOutlines(&painter, m_scene, m_scale, palette().color(QPalette::Highlight));
 }
 
