@@ -150,12 +150,13 @@ ConditionAnswer Condition::explain(const ConditionValue &value, PatternBudget *b
 QString Condition::flaw() const
 {
     const ConditionDetail &detail = *m_detail;
-    bool isFlawed = detail.text.isEmpty() || detail.nonNumber;
-    if (!isFlawed && detail.pattern) {
-        const PatternSearch::Result result = detail.pattern->search(QStringLiteral(""));
-        isFlawed = result == PatternSearch::Broken || result == PatternSearch::PatternTooLong;
+    if (detail.pattern) {
+        const PatternSearch::Result flaw = detail.pattern->flaw();
+        return flaw == PatternSearch::NotFound ? QString()
+                                               : explainPattern(detail, ConditionValue({}), flaw);
     }
-    return isFlawed ? explain(ConditionValue(QStringLiteral(""))).explanation : QString();
+    const bool isFlawed = detail.text.isEmpty() || detail.nonNumber;
+    return isFlawed ? explain(ConditionValue(QStringLiteral("0"))).explanation : QString();
 }
 
 } // namespace lctrlsex

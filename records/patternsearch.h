@@ -47,6 +47,9 @@ public:
 
     [[nodiscard]] Result search(const QString &value, PatternBudget *budget = nullptr) const;
 
+    /** Why no value can be searched, Broken or PatternTooLong; NotFound when one can. */
+    [[nodiscard]] Result flaw() const { return refusal(QString(), nullptr); }
+
     /** What is wrong with a broken pattern, in English. */
     [[nodiscard]] QString errorText() const;
     /** Where it is wrong, counted from 1. */
