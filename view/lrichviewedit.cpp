@@ -2,6 +2,8 @@
 
 #include "documentsetup.h"
 #include "fragmentmerge.h"
+#include "imageinsertion.h"
+#include "imageresize.h"
 #include "itemdocument.h"
 #include "pagelines.h"
 #include "pastedtext.h"
@@ -9,10 +11,12 @@
 
 #include <QAbstractTextDocumentLayout>
 #include <QDropEvent>
+#include <QFileDialog>
 #include <QKeyEvent>
 #include <QMimeData>
 #include <QPaintEvent>
 #include <QPainter>
+#include <QPointer>
 #include <QScrollBar>
 
 namespace {
@@ -47,6 +51,7 @@ LRichViewEdit::LRichViewEdit(QWidget *parent)
 {
     m_document->setUndoRedoEnabled(true);
     setDocument(m_document);
+    m_imageResize = new lctrlsex::ImageResize(this);
     setFrameShape(QFrame::NoFrame);
     connect(m_document->documentLayout(), &QAbstractTextDocumentLayout::update, this,
             [this] { m_edgesUntil = -1; });
@@ -71,6 +76,7 @@ void LRichViewEdit::load(const QString &html, const lctrlsex::TextSettings &sett
 void LRichViewEdit::setItemSize(const QSize &size)
 {
     m_itemSize = size;
+    m_imageResize->setLimit(size);
     m_edgesUntil = -1;
     // A page size of the document would be undone by the next resize; this is not.
     if (size.width() > 0) {
@@ -204,6 +210,14 @@ void LRichViewEdit::inputMethodEvent(QInputMethodEvent *event)
     QTextEdit::inputMethodEvent(event);
 }
 
+void LRichViewEdit::wheelEvent(QWheelEvent *event)
+{
+    if (!m_hasPlainMenu) {
+        m_imageResize->dismiss();
+    }
+    QTextEdit::wheelEvent(event);
+}
+
 void LRichViewEdit::dropEvent(QDropEvent *event)
 {
     QTextCursor moved = textCursor();
@@ -227,16 +241,69 @@ void LRichViewEdit::dropEvent(QDropEvent *event)
         moved.removeSelectedText();
         moved.endEditBlock();
     }
+    if (event->source() == nullptr) {
+        event->setDropAction(Qt::CopyAction); // a file that was dropped stays where it was
+    }
+}
+
+QMimeData *LRichViewEdit::createMimeDataFromSelection() const
+{
+    std::unique_ptr<QMimeData> picture = lctrlsex::pictureData(textCursor());
+    return picture != nullptr ? picture.release() : QTextEdit::createMimeDataFromSelection();
 }
 
 bool LRichViewEdit::canInsertFromMimeData(const QMimeData *source) const
 {
-    return source->hasText();
+    return source->hasText() || lctrlsex::offersPictures(*source);
 }
 
 void LRichViewEdit::insertFromMimeData(const QMimeData *source)
 {
-    if (!isReadOnly() && source->hasText()) {
+    if (isReadOnly()) {
+        return;
+    }
+    if (lctrlsex::offersPictures(*source)) {
+        insertPictures(lctrlsex::picturesOf(*source, m_itemSize));
+    } else if (source->hasText()) {
         emit InsertCopyText(source->text());
+    }
+}
+
+void LRichViewEdit::insertImage(const QImage &image)
+{
+    insertPictures({lctrlsex::pictureFromImage(image, m_itemSize)});
+}
+
+void LRichViewEdit::insertImageFile(const QString &path)
+{
+    insertPictures({lctrlsex::pictureFromFile(path, m_itemSize)});
+}
+
+void LRichViewEdit::chooseImage()
+{
+    // On the heap and guarded: the host may delete the view while the dialog is open.
+    const QPointer<QFileDialog> dialog =
+        new QFileDialog(this, QString(), QString(), lctrlsex::imageFileFilter());
+    dialog->setFileMode(QFileDialog::ExistingFile);
+    const bool isAccepted = dialog->exec() == QDialog::Accepted && dialog != nullptr;
+    const QStringList files = isAccepted ? dialog->selectedFiles() : QStringList();
+    delete dialog;
+    if (!files.isEmpty()) {
+        insertImageFile(files.first());
+    }
+}
+
+void LRichViewEdit::insertPictures(const QVector<lctrlsex::InsertedPicture> &pictures)
+{
+    if (isReadOnly()) {
+        return;
+    }
+    QTextCursor cursor = textCursor();
+    const QString problem = lctrlsex::insertPictures(&cursor, pictures);
+    if (problem.isEmpty()) {
+        setTextCursor(cursor);
+        ensureCursorVisible();
+    } else {
+        emit insertionRefused(problem);
     }
 }
