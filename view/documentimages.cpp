@@ -4,6 +4,7 @@
 #include <QTextBlock>
 #include <QTextCursor>
 #include <QTextDocument>
+#include <QTextFrame>
 #include <QTextLayout>
 #include <QTextObjectInterface>
 
@@ -19,19 +20,14 @@ qreal topInLine(const QTextLine &line, const QTextCharFormat &format, qreal heig
         return 0;
     case QTextCharFormat::AlignBottom:
         return line.height() - height;
+    case QTextCharFormat::AlignMiddle:
+        return (line.height() - height) / 2;
     default:
         return line.ascent() - height;
     }
 }
 
 } // namespace
-
-bool isPicture(const QTextCharFormat &format)
-{
-    return format.isImageFormat() && format.objectIndex() == -1 &&
-           !format.toImageFormat().name().startsWith(QLatin1String("data://bindkey/"),
-                                                     Qt::CaseInsensitive);
-}
 
 QTextCharFormat formatOfCharacter(const QTextDocument &document, int position)
 {
@@ -46,8 +42,16 @@ QTextCharFormat formatOfCharacter(const QTextDocument &document, int position)
 
 bool isPictureAt(const QTextDocument &document, int position)
 {
-    return position >= 0 && document.characterAt(position) == QChar::ObjectReplacementCharacter &&
-           isPicture(formatOfCharacter(document, position));
+    if (position < 0 || document.characterAt(position) != QChar::ObjectReplacementCharacter) {
+        return false;
+    }
+    const QTextCharFormat format = formatOfCharacter(document, position);
+    const auto *frame = qobject_cast<QTextFrame *>(document.objectForFormat(format));
+    const bool isInLine =
+        frame == nullptr || frame->frameFormat().position() == QTextFrameFormat::InFlow;
+    return format.isImageFormat() && isInLine &&
+           !format.toImageFormat().name().startsWith(QLatin1String("data://bindkey/"),
+                                                     Qt::CaseInsensitive);
 }
 
 int pictureAt(const QTextCursor &cursor, int preferred)
@@ -92,12 +96,11 @@ QRectF pictureRect(const QTextDocument &document, int position)
     return QRectF(origin + QPointF(left, top), size);
 }
 
-void resizePicture(QTextDocument *document, int position, const QSize &size)
+void resizePicture(QTextCursor cursor, int position, const QSize &size)
 {
-    QTextImageFormat format = formatOfCharacter(*document, position).toImageFormat();
+    QTextImageFormat format = formatOfCharacter(*cursor.document(), position).toImageFormat();
     format.setWidth(size.width());
     format.setHeight(size.height());
-    QTextCursor cursor(document);
     cursor.beginEditBlock(); // a merge can join no other step
     cursor.setPosition(position);
     cursor.setPosition(position + 1, QTextCursor::KeepAnchor);

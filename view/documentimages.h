@@ -8,13 +8,13 @@ class QTextDocument;
 
 namespace lctrlsex {
 
-/** Whether @p format is a picture in the line: neither a field nor one that text flows around. */
-[[nodiscard]] bool isPicture(const QTextCharFormat &format);
-
 /** The format of the character at @p position, one of several images in a row too. */
 [[nodiscard]] QTextCharFormat formatOfCharacter(const QTextDocument &document, int position);
 
-/** Whether the character at @p position, which may be any number, is a picture. */
+/**
+ * Whether the character at @p position, which may be any number, is a picture in its line: neither
+ * a field nor an image that text flows around.
+ */
 [[nodiscard]] bool isPictureAt(const QTextDocument &document, int position);
 
 /**
@@ -30,7 +30,10 @@ namespace lctrlsex {
 /** Where the picture at @p position is shown, in the document; lays out what is above it. */
 [[nodiscard]] QRectF pictureRect(const QTextDocument &document, int position);
 
-/** Gives the picture at @p position a size in pixels, as one undo step. */
-void resizePicture(QTextDocument *document, int position, const QSize &size);
+/**
+ * Gives the picture at @p position a size in pixels, as one undo step; undoing it takes the text
+ * cursor to where @p cursor is.
+ */
+void resizePicture(QTextCursor cursor, int position, const QSize &size);
 
 } // namespace lctrlsex

@@ -13,6 +13,7 @@
 #include <QTextCursor>
 #include <QTextDocument>
 #include <QUrl>
+#include <QtMath>
 
 #include <algorithm>
 
@@ -159,6 +160,13 @@ QSize boundedSize(const QSize &size, const QSize &limit)
     return (limit.isEmpty() ? size : size.boundedTo(limit)).expandedTo(QSize(1, 1));
 }
 
+QSize roomForPictures(const QSize &item, qreal margin)
+{
+    const int margins = qCeil(2 * margin);
+    const QSize room = item - QSize(margins, margins);
+    return room.isEmpty() ? item : room;
+}
+
 InsertedPicture pictureFromData(const QByteArray &data, const QSize &limit)
 {
     const RasterImage raster = decodeRaster(data);
@@ -258,6 +266,7 @@ QString insertPictures(QTextCursor *cursor, const QVector<InsertedPicture> &pict
     const QString problem = reopeningProblemAfter(*cursor, insert);
     if (problem.isEmpty()) {
         insert(cursor);
+        cursor->setCharFormat(formatBehind(cursor->charFormat())); // for what is typed next
         return {};
     }
     return ImageInsertionTexts::tr("No picture was inserted, because the document could not be "

@@ -26,6 +26,9 @@ struct InsertedPicture
 /** @p size with each side within 1 and @p limit; an empty limit is none. */
 [[nodiscard]] QSize boundedSize(const QSize &size, const QSize &limit);
 
+/** What an item has inside of the margins of its text: a picture in it is not cut on a page. */
+[[nodiscard]] QSize roomForPictures(const QSize &item, qreal margin);
+
 /**
  * The picture in @p data, read as decodeRaster() does, scaled down to @p limit and never up. It is
  * stored as PNG; a JPEG stays one, byte for byte when it needs no scaling. An opaque picture whose

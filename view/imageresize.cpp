@@ -112,20 +112,20 @@ void ImageResize::showSize(const QRect &geometry)
 
 void ImageResize::finish(const QRect &geometry)
 {
-    QTextDocument *document = m_view->document();
+    const QTextDocument &document = *m_view->document();
     const QRect before = m_band->geometryAtPress();
     const int position = m_picture.position();
     QToolTip::hideText();
-    if (geometry.size() != before.size() && isPictureAt(*document, position) &&
+    if (geometry.size() != before.size() && isPictureAt(document, position) &&
         !m_view->isReadOnly()) {
         // A picture smaller than a grip has a larger band: what was not dragged stays as it was.
-        const QSize old = pictureRect(*document, position).size().toSize();
+        const QSize old = pictureRect(document, position).size().toSize();
         const QSize wanted(geometry.width() == before.width() ? old.width() : geometry.width(),
                            geometry.height() == before.height() ? old.height() : geometry.height());
         const QSize size =
             m_band->keepsRatio() ? fittedSize(wanted, m_limit) : boundedSize(wanted, m_limit);
         if (size != old) {
-            resizePicture(document, position, size);
+            resizePicture(m_view->textCursor(), position, size);
         }
     }
     m_band->updateGripBand();

@@ -263,20 +263,25 @@ void LRichViewEdit::insertFromMimeData(const QMimeData *source)
         return;
     }
     if (lctrlsex::offersPictures(*source)) {
-        insertPictures(lctrlsex::picturesOf(*source, m_itemSize));
+        insertPictures(lctrlsex::picturesOf(*source, roomForPictures()));
     } else if (source->hasText()) {
         emit InsertCopyText(source->text());
     }
 }
 
+QSize LRichViewEdit::roomForPictures() const
+{
+    return lctrlsex::roomForPictures(m_itemSize, m_document->documentMargin());
+}
+
 void LRichViewEdit::insertImage(const QImage &image)
 {
-    insertPictures({lctrlsex::pictureFromImage(image, m_itemSize)});
+    insertPictures({lctrlsex::pictureFromImage(image, roomForPictures())});
 }
 
 void LRichViewEdit::insertImageFile(const QString &path)
 {
-    insertPictures({lctrlsex::pictureFromFile(path, m_itemSize)});
+    insertPictures({lctrlsex::pictureFromFile(path, roomForPictures())});
 }
 
 void LRichViewEdit::chooseImage()

@@ -99,6 +99,7 @@ protected:
     void insertFromMimeData(const QMimeData *source) override;
 
 private:
+    [[nodiscard]] QSize roomForPictures() const;
     void insertPictures(const QVector<lctrlsex::InsertedPicture> &pictures);
     void paintChequers();
     void paintTableGrounds(const QRect &region);
