@@ -109,6 +109,12 @@ RasterImage tooLarge()
                        "64 million pixels in all."));
 }
 
+RasterImage damaged()
+{
+    return failure(QT_TRANSLATE_NOOP(
+        "RasterImage", "The picture is damaged or incomplete; save it again or copy it anew."));
+}
+
 } // namespace
 
 QByteArray rasterFormatOf(const QByteArray &data)
@@ -127,7 +133,10 @@ QByteArray rasterFormatOf(const QByteArray &data)
 
 RasterImage checkedRaster(const QImage &image)
 {
-    return isTooLarge(image.size()) ? tooLarge() : RasterImage{image, QString()};
+    if (isTooLarge(image.size())) {
+        return tooLarge();
+    }
+    return image.isNull() ? damaged() : RasterImage{image, QString()};
 }
 
 RasterImage decodeRaster(const QByteArray &data, qint64 mostBytes)
@@ -156,8 +165,7 @@ RasterImage decodeRaster(const QByteArray &data, qint64 mostBytes)
     QImage image;
     if (!size.isValid() || size.isEmpty() || !isComplete(format, data, size) ||
         !reader.read(&image) || image.size() != size) {
-        return failure(QT_TRANSLATE_NOOP(
-            "RasterImage", "The picture is damaged or incomplete; save it again or copy it anew."));
+        return damaged();
     }
     return {image, QString()};
 }

@@ -40,7 +40,7 @@ constexpr int longestRasterSide = 16384;
 /** The format that the first bytes announce: "png", "jpeg", "gif", "bmp" or none. Any thread. */
 [[nodiscard]] QByteArray rasterFormatOf(const QByteArray &data);
 
-/** @p image itself, or an error when it has more pixels than a picture may have. Any thread. */
+/** @p image itself, or an error when it is null or larger than a picture may be. Any thread. */
 [[nodiscard]] RasterImage checkedRaster(const QImage &image);
 
 /**

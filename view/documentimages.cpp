@@ -89,8 +89,7 @@ QRectF pictureRect(const QTextDocument &document, int position)
         return QRectF();
     }
     const QTextCharFormat format = formatOfCharacter(document, position);
-    const QSizeF size =
-        handler->intrinsicSize(const_cast<QTextDocument *>(&document), position, format);
+    const QSizeF size = handler->intrinsicSize(layout->document(), position, format);
     const qreal left = qMin(line.cursorToX(place), line.cursorToX(place + 1));
     const qreal top = line.y() + topInLine(line, format, size.height());
     return QRectF(origin + QPointF(left, top), size);

@@ -59,21 +59,25 @@ QImage bare(const QImage &image, const QSize &size)
         .copy();
 }
 
-QByteArray encoded(const QImage &image, const char *format, int quality = -1)
+QByteArray encoded(const QImage &image, const QByteArray &format)
 {
+    const int quality = format == "jpeg" ? JpegQuality : -1;
     QBuffer buffer;
     buffer.open(QIODevice::WriteOnly);
-    return image.save(&buffer, format, quality) ? buffer.data() : QByteArray();
+    return image.save(&buffer, format.constData(), quality) ? buffer.data() : QByteArray();
 }
 
 InsertedPicture storedImage(const QImage &image, const QSize &limit, bool isJpeg)
 {
     const QImage pixels = bare(image, fittedSize(image.size(), limit));
-    const QByteArray png = isJpeg ? QByteArray() : encoded(pixels, "PNG");
-    if (png.isEmpty() || (png.size() > LargestPng && !pixels.hasAlphaChannel())) {
-        return stored(encoded(pixels, "JPEG", JpegQuality), "jpeg", pixels.size());
+    const char *format = isJpeg ? "jpeg" : "png";
+    QByteArray data = encoded(pixels, format);
+    if (!isJpeg && data.size() > LargestPng && !pixels.hasAlphaChannel()) {
+        format = "jpeg";
+        data = encoded(pixels, format);
     }
-    return stored(png, "png", pixels.size());
+    return data.isEmpty() ? refused(checkedRaster(QImage()).error) // there was no memory for it
+                          : stored(data, format, pixels.size());
 }
 
 /** A camera writes beside a JPEG how it was held; null when that was upright. */

@@ -11,12 +11,10 @@
 
 #include <QAbstractTextDocumentLayout>
 #include <QDropEvent>
-#include <QFileDialog>
 #include <QKeyEvent>
 #include <QMimeData>
 #include <QPaintEvent>
 #include <QPainter>
-#include <QPointer>
 #include <QScrollBar>
 
 namespace {
@@ -246,12 +244,6 @@ void LRichViewEdit::dropEvent(QDropEvent *event)
     }
 }
 
-QMimeData *LRichViewEdit::createMimeDataFromSelection() const
-{
-    std::unique_ptr<QMimeData> picture = lctrlsex::pictureData(textCursor());
-    return picture != nullptr ? picture.release() : QTextEdit::createMimeDataFromSelection();
-}
-
 bool LRichViewEdit::canInsertFromMimeData(const QMimeData *source) const
 {
     return source->hasText() || lctrlsex::offersPictures(*source);
@@ -266,49 +258,5 @@ void LRichViewEdit::insertFromMimeData(const QMimeData *source)
         insertPictures(lctrlsex::picturesOf(*source, roomForPictures()));
     } else if (source->hasText()) {
         emit InsertCopyText(source->text());
-    }
-}
-
-QSize LRichViewEdit::roomForPictures() const
-{
-    return lctrlsex::roomForPictures(m_itemSize, m_document->documentMargin());
-}
-
-void LRichViewEdit::insertImage(const QImage &image)
-{
-    insertPictures({lctrlsex::pictureFromImage(image, roomForPictures())});
-}
-
-void LRichViewEdit::insertImageFile(const QString &path)
-{
-    insertPictures({lctrlsex::pictureFromFile(path, roomForPictures())});
-}
-
-void LRichViewEdit::chooseImage()
-{
-    // On the heap and guarded: the host may delete the view while the dialog is open.
-    const QPointer<QFileDialog> dialog =
-        new QFileDialog(this, QString(), QString(), lctrlsex::imageFileFilter());
-    dialog->setFileMode(QFileDialog::ExistingFile);
-    const bool isAccepted = dialog->exec() == QDialog::Accepted && dialog != nullptr;
-    const QStringList files = isAccepted ? dialog->selectedFiles() : QStringList();
-    delete dialog;
-    if (!files.isEmpty()) {
-        insertImageFile(files.first());
-    }
-}
-
-void LRichViewEdit::insertPictures(const QVector<lctrlsex::InsertedPicture> &pictures)
-{
-    if (isReadOnly()) {
-        return;
-    }
-    QTextCursor cursor = textCursor();
-    const QString problem = lctrlsex::insertPictures(&cursor, pictures);
-    if (problem.isEmpty()) {
-        setTextCursor(cursor);
-        ensureCursorVisible();
-    } else {
-        emit insertionRefused(problem);
     }
 }
