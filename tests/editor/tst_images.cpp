@@ -170,7 +170,6 @@ void TestImages::comesIntoTheDocument()
     QVERIFY(!item.view->document()->isUndoAvailable());
     item.view->redo();
     item.settle();
-    const QImage before = item.view->viewport()->grab().toImage();
     QCOMPARE(item.stored(), stored);
     item.open();
     QCOMPARE(item.sizeAt(1), QSize(40, 20));
