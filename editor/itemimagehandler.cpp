@@ -53,9 +53,14 @@ void ItemImageHandler::drawObject(QPainter *painter, const QRectF &rect, QTextDo
 {
     Q_UNUSED(position)
     const QImage image = imageOf(document, format.toImageFormat());
-    if (!image.isNull()) {
-        painter->drawImage(rect, image, image.rect());
+    if (image.isNull()) {
+        return;
     }
+    // Only what is scaled: one that lies between two pixels is not to be blurred.
+    const bool isSmooth = painter->testRenderHint(QPainter::SmoothPixmapTransform);
+    painter->setRenderHint(QPainter::SmoothPixmapTransform, rect.size() != image.size());
+    painter->drawImage(rect, image, image.rect());
+    painter->setRenderHint(QPainter::SmoothPixmapTransform, isSmooth);
 }
 
 } // namespace lctrlsex

@@ -108,15 +108,22 @@ QString reopeningProblem(const QTextDocument &document)
     return guarded.accepted ? QString() : guarded.reason + QLatin1Char(' ') + guarded.remedy;
 }
 
-QString insertionProblem(const QTextCursor &cursor, const QString &text,
-                         const QTextCharFormat &format)
+QString reopeningProblemAfter(const QTextCursor &cursor,
+                              const std::function<void(QTextCursor *)> &edit)
 {
     const std::unique_ptr<QTextDocument> trial(cursor.document()->clone());
     QTextCursor there(trial.get());
     there.setPosition(cursor.anchor());
     there.setPosition(cursor.position(), QTextCursor::KeepAnchor);
-    there.insertText(text, format);
-    const QString problem = reopeningProblem(*trial);
+    edit(&there);
+    return reopeningProblem(*trial);
+}
+
+QString insertionProblem(const QTextCursor &cursor, const QString &text,
+                         const QTextCharFormat &format)
+{
+    const QString problem =
+        reopeningProblemAfter(cursor, [&](QTextCursor *there) { there->insertText(text, format); });
     if (problem.isEmpty()) {
         return {};
     }

@@ -2,6 +2,8 @@
 
 #include <QString>
 
+#include <functional>
+
 class QTextCharFormat;
 class QTextCursor;
 class QTextDocument;
@@ -37,6 +39,13 @@ struct PastedText
 
 /** Why @p document, once stored, could not be opened again, and the remedy; empty when it can. */
 [[nodiscard]] QString reopeningProblem(const QTextDocument &document);
+
+/**
+ * The same for the document that @p edit would make; it is given a cursor like @p cursor in a copy
+ * of the document, which itself stays as it is.
+ */
+[[nodiscard]] QString reopeningProblemAfter(const QTextCursor &cursor,
+                                            const std::function<void(QTextCursor *)> &edit);
 
 /**
  * The same for the document that inserting @p text at @p cursor, in place of its selection, would

@@ -27,24 +27,14 @@ RasterImage failure(const char *text)
     return {QImage(), tr(text)};
 }
 
-/** The name of the format that the first bytes announce; empty for any other. */
-QByteArray formatOf(const QByteArray &data)
-{
-    if (data.startsWith("\x89PNG\r\n\x1a\n")) {
-        return QByteArrayLiteral("png");
-    }
-    if (data.startsWith("\xff\xd8\xff")) {
-        return QByteArrayLiteral("jpeg");
-    }
-    if (data.startsWith("GIF87a") || data.startsWith("GIF89a")) {
-        return QByteArrayLiteral("gif");
-    }
-    return data.startsWith("BM") ? QByteArrayLiteral("bmp") : QByteArray();
-}
-
 uint byteAt(const QByteArray &data, qint64 pos)
 {
     return pos < data.size() ? uchar(data.at(int(pos))) : 0;
+}
+
+RasterData dataFailure(const char *text)
+{
+    return {QByteArray(), tr(text)};
 }
 
 /** Bytes of the colour table that the flags of a GIF's screen or frame announce. */
@@ -106,6 +96,12 @@ bool isComplete(const QByteArray &format, const QByteArray &data, const QSize &s
     return format == "gif" ? hasWholeGifFrame(data) : hasWholeBitmap(data, size);
 }
 
+bool isTooLarge(const QSize &size)
+{
+    return size.width() > longestRasterSide || size.height() > longestRasterSide ||
+           qint64(size.width()) * size.height() > mostRasterPixels;
+}
+
 RasterImage tooLarge()
 {
     return failure(QT_TRANSLATE_NOOP(
@@ -113,7 +109,35 @@ RasterImage tooLarge()
                        "64 million pixels in all."));
 }
 
+RasterImage damaged()
+{
+    return failure(QT_TRANSLATE_NOOP(
+        "RasterImage", "The picture is damaged or incomplete; save it again or copy it anew."));
+}
+
 } // namespace
+
+QByteArray rasterFormatOf(const QByteArray &data)
+{
+    if (data.startsWith("\x89PNG\r\n\x1a\n")) {
+        return QByteArrayLiteral("png");
+    }
+    if (data.startsWith("\xff\xd8\xff")) {
+        return QByteArrayLiteral("jpeg");
+    }
+    if (data.startsWith("GIF87a") || data.startsWith("GIF89a")) {
+        return QByteArrayLiteral("gif");
+    }
+    return data.startsWith("BM") ? QByteArrayLiteral("bmp") : QByteArray();
+}
+
+RasterImage checkedRaster(const QImage &image)
+{
+    if (isTooLarge(image.size())) {
+        return tooLarge();
+    }
+    return image.isNull() ? damaged() : RasterImage{image, QString()};
+}
 
 RasterImage decodeRaster(const QByteArray &data, qint64 mostBytes)
 {
@@ -122,7 +146,7 @@ RasterImage decodeRaster(const QByteArray &data, qint64 mostBytes)
             "RasterImage", "The picture file is larger than %1 MB; save it smaller.");
         return {QImage(), tr(reason).arg(mostBytes / 1024 / 1024)};
     }
-    const QByteArray format = formatOf(data);
+    const QByteArray format = rasterFormatOf(data);
     if (format.isEmpty()) {
         return failure(QT_TRANSLATE_NOOP(
             "RasterImage",
@@ -135,20 +159,18 @@ RasterImage decodeRaster(const QByteArray &data, qint64 mostBytes)
     reader.setAutoDetectImageFormat(false);
     reader.setDecideFormatFromContent(false);
     const QSize size = reader.size();
-    if (size.width() > longestRasterSide || size.height() > longestRasterSide ||
-        qint64(size.width()) * size.height() > mostRasterPixels) {
+    if (isTooLarge(size)) {
         return tooLarge();
     }
     QImage image;
     if (!size.isValid() || size.isEmpty() || !isComplete(format, data, size) ||
         !reader.read(&image) || image.size() != size) {
-        return failure(QT_TRANSLATE_NOOP(
-            "RasterImage", "The picture is damaged or incomplete; save it again or copy it anew."));
+        return damaged();
     }
     return {image, QString()};
 }
 
-RasterImage readRasterFile(const QString &path, qint64 mostBytes)
+RasterData readRasterData(const QString &path, qint64 mostBytes)
 {
     const char *const unreadable = QT_TRANSLATE_NOOP(
         "RasterImage", "The picture cannot be read; check that the file exists and may be read.");
@@ -160,23 +182,31 @@ RasterImage readRasterFile(const QString &path, qint64 mostBytes)
         ::open(QFile::encodeName(path).constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC | O_NOCTTY);
     struct stat status = {};
     if (descriptor < 0) {
-        return failure(unreadable);
+        return dataFailure(unreadable);
     }
     const bool regular = ::fstat(descriptor, &status) == 0 && S_ISREG(status.st_mode);
     if (!regular || !file.open(descriptor, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle)) {
         ::close(descriptor);
-        return failure(regular ? unreadable
+        return dataFailure(regular
+                               ? unreadable
                                : QT_TRANSLATE_NOOP("RasterImage",
                                                    "This is not a file with a picture; choose a "
                                                    "picture file."));
     }
 #else
     if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly)) {
-        return failure(unreadable);
+        return dataFailure(unreadable);
     }
 #endif
     // One byte more than allowed is enough to know.
-    return decodeRaster(file.read(mostBytes + 1), mostBytes);
+    return {file.read(mostBytes + 1), QString()};
+}
+
+RasterImage readRasterFile(const QString &path, qint64 mostBytes)
+{
+    const RasterData read = readRasterData(path, mostBytes);
+    return read.error.isEmpty() ? decodeRaster(read.data, mostBytes)
+                                : RasterImage{QImage(), read.error};
 }
 
 } // namespace lctrlsex

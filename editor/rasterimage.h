@@ -15,6 +15,13 @@ struct RasterImage
     QString error;
 };
 
+/** The bytes of a picture, or why there are none. */
+struct RasterData
+{
+    QByteArray data;
+    QString error; ///< As in RasterImage.
+};
+
 /** Most bytes that a picture in a document may have. */
 constexpr qint64 largestRasterData = qint64(16) * 1024 * 1024;
 /** Most pixels in all and on a side. */
@@ -29,6 +36,18 @@ constexpr int longestRasterSide = 16384;
  */
 [[nodiscard]] RasterImage decodeRaster(const QByteArray &data,
                                        qint64 mostBytes = largestRasterData);
+
+/** The format that the first bytes announce: "png", "jpeg", "gif", "bmp" or none. Any thread. */
+[[nodiscard]] QByteArray rasterFormatOf(const QByteArray &data);
+
+/** @p image itself, or an error when it is null or larger than a picture may be. Any thread. */
+[[nodiscard]] RasterImage checkedRaster(const QImage &image);
+
+/**
+ * Reads the bytes of a file, at most one more than @p mostBytes, and decodes nothing. What is not a
+ * regular file (a pipe, a device, a folder) is an error and is not waited for. Any thread.
+ */
+[[nodiscard]] RasterData readRasterData(const QString &path, qint64 mostBytes = largestRasterData);
 
 /**
  * Reads a picture from a file as decodeRaster(). What is not a regular file (a pipe, a device, a

@@ -242,7 +242,7 @@ void TextEdit::CursorPositionFontStatusMarked()
 {
     const QTextCursor cursor = m_view->textCursor();
     m_toolBar->showFormat(lctrlsex::toolbarFormatAt(cursor));
-    if (!cursor.hasSelection() && lctrlsex::isField(cursor.charFormat())) {
+    if (!cursor.hasSelection() && cursor.charFormat().isImageFormat()) {
         m_view->setCurrentCharFormat(lctrlsex::formatBehind(cursor.charFormat()));
     }
 }

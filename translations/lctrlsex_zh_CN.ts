@@ -282,6 +282,29 @@
     </message>
 </context>
 <context>
+    <name>ImageInsertion</name>
+    <message>
+        <source>No picture was inserted. %1</source>
+        <translation>未插入图片。%1</translation>
+    </message>
+    <message>
+        <source>At most %1 files can be inserted at once; insert them in parts.</source>
+        <translation>一次最多可插入 %1 个文件；请分批插入。</translation>
+    </message>
+    <message>
+        <source>No picture was inserted, because the document could not be opened again: %1</source>
+        <translation>未插入图片，因为插入后文档将无法再次打开：%1</translation>
+    </message>
+    <message>
+        <source>Insert Image...</source>
+        <translation>插入图片...</translation>
+    </message>
+    <message>
+        <source>Pictures (*.png *.jpg *.jpeg *.gif *.bmp)</source>
+        <translation>图片 (*.png *.jpg *.jpeg *.gif *.bmp)</translation>
+    </message>
+</context>
+<context>
     <name>ItemCheck</name>
     <message>
         <source>text</source>

@@ -2,6 +2,8 @@
 
 #include "documentsetup.h"
 #include "fragmentmerge.h"
+#include "imageinsertion.h"
+#include "imageresize.h"
 #include "itemdocument.h"
 #include "pagelines.h"
 #include "pastedtext.h"
@@ -47,6 +49,7 @@ LRichViewEdit::LRichViewEdit(QWidget *parent)
 {
     m_document->setUndoRedoEnabled(true);
     setDocument(m_document);
+    m_imageResize = new lctrlsex::ImageResize(this);
     setFrameShape(QFrame::NoFrame);
     connect(m_document->documentLayout(), &QAbstractTextDocumentLayout::update, this,
             [this] { m_edgesUntil = -1; });
@@ -71,6 +74,7 @@ void LRichViewEdit::load(const QString &html, const lctrlsex::TextSettings &sett
 void LRichViewEdit::setItemSize(const QSize &size)
 {
     m_itemSize = size;
+    m_imageResize->setLimit(size);
     m_edgesUntil = -1;
     // A page size of the document would be undone by the next resize; this is not.
     if (size.width() > 0) {
@@ -204,6 +208,14 @@ void LRichViewEdit::inputMethodEvent(QInputMethodEvent *event)
     QTextEdit::inputMethodEvent(event);
 }
 
+void LRichViewEdit::wheelEvent(QWheelEvent *event)
+{
+    if (!m_hasPlainMenu) {
+        m_imageResize->dismiss();
+    }
+    QTextEdit::wheelEvent(event);
+}
+
 void LRichViewEdit::dropEvent(QDropEvent *event)
 {
     QTextCursor moved = textCursor();
@@ -227,16 +239,24 @@ void LRichViewEdit::dropEvent(QDropEvent *event)
         moved.removeSelectedText();
         moved.endEditBlock();
     }
+    if (event->source() == nullptr) {
+        event->setDropAction(Qt::CopyAction); // a file that was dropped stays where it was
+    }
 }
 
 bool LRichViewEdit::canInsertFromMimeData(const QMimeData *source) const
 {
-    return source->hasText();
+    return source->hasText() || lctrlsex::offersPictures(*source);
 }
 
 void LRichViewEdit::insertFromMimeData(const QMimeData *source)
 {
-    if (!isReadOnly() && source->hasText()) {
+    if (isReadOnly()) {
+        return;
+    }
+    if (lctrlsex::offersPictures(*source)) {
+        insertPictures(lctrlsex::picturesOf(*source, roomForPictures()));
+    } else if (source->hasText()) {
         emit InsertCopyText(source->text());
     }
 }

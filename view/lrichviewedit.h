@@ -5,6 +5,8 @@
 #include <QTextEdit>
 
 namespace lctrlsex {
+class ImageResize;
+struct InsertedPicture;
 class ItemDocument;
 struct TextSettings;
 } // namespace lctrlsex
@@ -40,10 +42,25 @@ public:
     /** The ground behind the text. A transparent one is shown as a chequered pattern. */
     void setGround(const QColor &color, bool isTransparent);
 
+    /**
+     * Leaves the toolkit's own entries alone in the context menu; the wheel then leaves the band
+     * over a picture where it is.
+     */
+    void setPlainMenu(bool on) { m_hasPlainMenu = on; }
+
     // The table's settings, as the node keeps them
 
     void setTableSettings(const LUM_EditInterface::LTableProperties &settings);
     [[nodiscard]] LUM_EditInterface::LTableProperties tableSettings() const { return m_table; }
+
+public slots:
+    // Pictures go into the document itself, at the cursor and in place of the selection; what is
+    // none, or does not fit in, changes nothing and is announced by insertionRefused().
+
+    void insertImage(const QImage &image);
+    void insertImageFile(const QString &path);
+    /** Asks for a file and inserts it. */
+    void chooseImage();
 
 signals:
     void PageChange(uint curPage, uint numPage);
@@ -66,6 +83,8 @@ signals:
     void InsertCopyText(QString text);
     /** A field was picked or dropped at the cursor. */
     void InsertFieldNameSignal(QString field);
+    /** Why a picture was not inserted, for the user. */
+    void insertionRefused(const QString &reason);
 
 protected:
     bool event(QEvent *event) override;
@@ -73,11 +92,15 @@ protected:
     void paintEvent(QPaintEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void inputMethodEvent(QInputMethodEvent *event) override;
+    void wheelEvent(QWheelEvent *event) override;
     void dropEvent(QDropEvent *event) override;
+    QMimeData *createMimeDataFromSelection() const override;
     bool canInsertFromMimeData(const QMimeData *source) const override;
     void insertFromMimeData(const QMimeData *source) override;
 
 private:
+    [[nodiscard]] QSize roomForPictures() const;
+    void insertPictures(const QVector<lctrlsex::InsertedPicture> &pictures);
     void paintChequers();
     void paintTableGrounds(const QRect &region);
     void paintPageEdges(const QRect &region);
@@ -86,9 +109,11 @@ private:
     Q_DISABLE_COPY(LRichViewEdit)
 
     lctrlsex::ItemDocument *m_document;
+    lctrlsex::ImageResize *m_imageResize;
     QSize m_itemSize;
     LUM_EditInterface::LTableProperties m_table;
     bool m_singleLine = false;
+    bool m_hasPlainMenu = false;
     bool m_isTransparent = false;
     QVector<qreal> m_pageEdges; ///< From the top, in pixels of the document.
     qreal m_edgesUntil = -1;    ///< How far down they are known.

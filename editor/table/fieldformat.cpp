@@ -115,10 +115,26 @@ void insertField(QTextCursor &cursor, const QString &qualifiedKey, const TypingS
     cursor.setCharFormat(style.toFormat());
 }
 
+namespace {
+
+/** What @p format, of an image or of text that took it over, has for text. */
+QTextCharFormat withoutImage(QTextCharFormat format)
+{
+    for (const int property :
+         {int(QTextFormat::ObjectType), int(QTextFormat::ImageName), int(QTextFormat::ImageWidth),
+          int(QTextFormat::ImageHeight), int(QTextFormat::TextVerticalAlignment), FieldKeyProperty,
+          FieldStyleProperty}) {
+        format.clearProperty(property);
+    }
+    return format;
+}
+
+} // namespace
+
 QTextCharFormat formatBehind(const QTextCharFormat &format)
 {
     if (!format.hasProperty(FieldKeyProperty) || !format.hasProperty(FieldStyleProperty)) {
-        return format;
+        return format.hasProperty(QTextFormat::ImageName) ? withoutImage(format) : format;
     }
     return FieldStyle::fromString(format.stringProperty(FieldStyleProperty)).text.toFormat();
 }

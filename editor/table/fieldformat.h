@@ -50,7 +50,8 @@ struct FieldStyle
 void insertField(QTextCursor &cursor, const QString &qualifiedKey, const TypingStyle &style);
 /**
  * The format for text that is typed behind @p format: the look of a field when that belongs to
- * one, without anything of its binding; else @p format itself. To be asked whenever the cursor
+ * one, without anything of its binding; that of another image without what makes it an image; else
+ * @p format itself. To be asked whenever the cursor
  * has moved, because text takes over all of the format before it.
  */
 [[nodiscard]] QTextCharFormat formatBehind(const QTextCharFormat &format);
