@@ -131,13 +131,37 @@ QTextTable *insertTable(QTextCursor &cursor, const LTableProperties &record,
     return table;
 }
 
+/** Sets what differs between @p record and @p present only: the rest may be finer than a record. */
+static void applyChanges(QTextTableFormat *format, const LTableProperties &record,
+                         const LTableProperties &present)
+{
+    const QTextTableFormat before = *format;
+    applyLook(format, record, record.columns);
+    if (record.backgroundColor == present.backgroundColor) {
+        format->setProperty(QTextFormat::BackgroundBrush,
+                            before.property(QTextFormat::BackgroundBrush));
+    }
+    if (record.borderWidth == present.borderWidth && record.borderColor == present.borderColor) {
+        for (const int property : {QTextFormat::FrameBorder, QTextFormat::FrameBorderStyle,
+                                   QTextFormat::FrameBorderBrush, QTextFormat::TableBorderCollapse,
+                                   QTextFormat::TableCellSpacing}) {
+            format->setProperty(property, before.property(property));
+        }
+    }
+    if (record.width == present.width) {
+        format->setColumnWidthConstraints(before.columnWidthConstraints());
+        format->setWidth(before.width());
+    }
+}
+
 void reformatTable(QTextTable *table, const LTableProperties &record)
 {
     if (table == nullptr || !isUsable(record)) {
         return;
     }
+    const LTableProperties present = readTable(table);
     QTextTableFormat looked = table->format();
-    applyLook(&looked, record, record.columns);
+    applyChanges(&looked, record, present);
     looked.setColumns(record.columns);
     if (table->rows() == record.rows && table->format() == looked) {
         return;
@@ -147,7 +171,7 @@ void reformatTable(QTextTable *table, const LTableProperties &record)
     setLineCount(table, Axis::Rows, table->rows(), record.rows);
     setLineCount(table, Axis::Columns, table->columns(), record.columns);
     QTextTableFormat format = table->format();
-    applyLook(&format, record, record.columns);
+    applyChanges(&format, record, present);
     table->setFormat(format);
     block.endEditBlock();
 }

@@ -32,8 +32,9 @@ QTextTable *insertTable(QTextCursor &cursor, const LUM_EditInterface::LTableProp
 
 /**
  * Gives @p table the look and the number of rows and columns of @p record, one undo step. Lines
- * are added and removed at the end. Header and alignment stay. Nothing is done with a null table or
- * a record that is not usable, and no undo step is made when all is so already.
+ * are added and removed at the end. Header and alignment stay, and so does whatever the record says
+ * as readTable() does: columns of different widths, no ground at all. Nothing is done with a null
+ * table or a record that is not usable, and no undo step is made when all is so already.
  */
 void reformatTable(QTextTable *table, const LUM_EditInterface::LTableProperties &record);
 

@@ -1,6 +1,7 @@
 #include "tablecommands.h"
 
 #include "richtable.h"
+#include "table/tablecells.h"
 #include "table/tableoperations.h"
 
 #include <QTextCursor>
@@ -114,6 +115,7 @@ TableCommands::MenuState TableCommands::menuState(int type) const
     state.columns = type == FixedForm || type == DynamicRows;
     state.merge = cursor.hasSelection() && table->cellAt(cursor.selectionStart()).isValid() &&
                   table->cellAt(cursor.selectionEnd()).isValid();
+    state.range = !selectedCells(cursor).isEmpty();
     state.split = type == FixedForm;
     state.properties = true;
     return state;
@@ -145,6 +147,9 @@ void TableCommands::operate(int code, int type)
             mergeSelected(m_view, table);
         }
         return;
+    case Unmerge:
+        unmergeCells(table, selectedCells(cursor));
+        return;
     case AlignTop:
         return align(*table, cursor, QTextCharFormat::AlignTop);
     case AlignBottom:
@@ -154,6 +159,38 @@ void TableCommands::operate(int code, int type)
     default:
         return;
     }
+}
+
+bool TableCommands::moveByTab(bool forward, int type)
+{
+    QTextTable *table = current();
+    if (table == nullptr) {
+        return false;
+    }
+    const QTextTableCell cell = table->cellAt(m_view->textCursor());
+    QPair<int, int> next = neighbourCell(*table, cell.row(), cell.column(), forward);
+    if (next.first < 0 && forward && menuState(type).rows) {
+        next = {table->rows(), 0};
+        insertLines(table, Axis::Rows, table->rows(), 1);
+    }
+    if (next.first >= 0) {
+        placeCursor(m_view, *table, next.first, next.second);
+    }
+    return true;
+}
+
+int TableCommands::fill(const QVector<QStringList> &cells, int type, const QTextCharFormat &format)
+{
+    QTextTable *table = current();
+    if (table == nullptr) {
+        return -1;
+    }
+    const Span range = selectedCells(m_view->textCursor());
+    const QTextTableCell cell = table->cellAt(m_view->textCursor());
+    const MenuState state = menuState(type);
+    return fillCells(table, range.isEmpty() ? cell.row() : range.row,
+                     range.isEmpty() ? cell.column() : range.column, cells,
+                     {state.rows, state.columns}, format);
 }
 
 bool TableCommands::splitCell(bool vertical, int pieces)

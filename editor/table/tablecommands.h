@@ -22,6 +22,7 @@ public:
         InsertColumnRight = 17,
         DeleteColumn = 18,
         Merge = 19,
+        Unmerge = 20,
         AlignTop = 24,
         AlignBottom = 25,
         AlignMiddle = 26
@@ -33,6 +34,7 @@ public:
         bool rows = false;
         bool columns = false;
         bool merge = false;
+        bool range = false; ///< A rectangle of cells is selected.
         bool split = false;
         bool properties = false;
     };
@@ -71,6 +73,18 @@ public:
      * else side by side; see splitCell(). False when the cell does not cover so many lines.
      */
     bool splitCell(bool vertical, int pieces);
+
+    /**
+     * Moves the cursor to the next cell or the one before; behind the last one a row is added where
+     * a table of @p type has rows of the author's. False outside a table.
+     */
+    bool moveByTab(bool forward, int type);
+
+    /**
+     * Puts @p cells into the table of @p type from the current cell on, see fillCells(). Returns
+     * how many found no place, -1 outside a table.
+     */
+    int fill(const QVector<QStringList> &cells, int type, const QTextCharFormat &format);
 
 private:
     QPointer<QTextEdit> m_view;

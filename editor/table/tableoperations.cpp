@@ -6,6 +6,8 @@
 #include <QTextDocumentFragment>
 #include <QTextTable>
 
+#include <algorithm>
+
 namespace lctrlsex {
 
 namespace {
@@ -258,6 +260,20 @@ bool splitCell(QTextTable *table, int row, int column, Axis axis, int pieces)
     const EditBlock block(*table);
     splitAll(table, {whole});
     mergeAll(table, parts);
+    return true;
+}
+
+bool unmergeCells(QTextTable *table, const Span &area)
+{
+    QVector<Span> merged = table != nullptr ? mergedCells(*table) : QVector<Span>();
+    merged.erase(std::remove_if(merged.begin(), merged.end(),
+                                [&area](const Span &span) { return !span.meets(area); }),
+                 merged.end());
+    if (merged.isEmpty()) {
+        return false;
+    }
+    const EditBlock block(*table);
+    splitAll(table, merged);
     return true;
 }
 

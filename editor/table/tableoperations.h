@@ -47,6 +47,12 @@ bool mergeCells(QTextTable *table, const Span &area);
  */
 bool splitCell(QTextTable *table, int row, int column, Axis axis, int pieces);
 
+/**
+ * Splits every merged cell that meets @p area back into its slots, the first of which keeps the
+ * contents. False, and nothing done, when there is none.
+ */
+bool unmergeCells(QTextTable *table, const Span &area);
+
 /** Gives the table the sum of its columns' widths, when all of these are fixed. */
 void fitTableWidth(QTextTable *table);
 

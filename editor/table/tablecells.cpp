@@ -1,0 +1,175 @@
+#include "tablecells.h"
+
+#include "table/tableoperations.h"
+
+#include <QTextCursor>
+#include <QTextTable>
+
+#include <algorithm>
+
+namespace lctrlsex {
+
+namespace {
+
+constexpr int MostCells = 10000; // as many as a table is made with
+
+/** Reads one cell after another; a quote counts at the start of a cell only. */
+class CellReader
+{
+public:
+    explicit CellReader(const QString &text)
+        : m_text(text)
+    {}
+
+    QVector<QStringList> rows()
+    {
+        QVector<QStringList> rows{QStringList()};
+        while (m_at <= m_text.size()) {
+            rows.last().append(cell());
+            if (m_at >= m_text.size()) {
+                break;
+            }
+            const bool endsRow = m_text.at(m_at) == QLatin1Char('\n');
+            ++m_at;
+            if (endsRow && m_at == m_text.size()) {
+                break; // the last row has a line end, too
+            }
+            if (endsRow) {
+                rows.append(QStringList());
+            }
+        }
+        return rows;
+    }
+
+private:
+    QString cell()
+    {
+        const int start = m_at;
+        if (m_at < m_text.size() && m_text.at(m_at) == QLatin1Char('"')) {
+            QString quoted;
+            if (readQuoted(&quoted) && isAtEnd()) {
+                return quoted;
+            }
+            m_at = start; // a quote that is none: the cell is as it is written
+        }
+        while (!isAtEnd()) {
+            ++m_at;
+        }
+        return m_text.mid(start, m_at - start);
+    }
+
+    /** False when the quote never ends. */
+    bool readQuoted(QString *cell)
+    {
+        for (++m_at; m_at < m_text.size(); ++m_at) {
+            if (m_text.at(m_at) != QLatin1Char('"')) {
+                *cell += m_text.at(m_at);
+            } else if (m_at + 1 < m_text.size() && m_text.at(m_at + 1) == QLatin1Char('"')) {
+                *cell += m_text.at(m_at++);
+            } else {
+                ++m_at;
+                return true;
+            }
+        }
+        return false;
+    }
+
+    [[nodiscard]] bool isAtEnd() const
+    {
+        return m_at >= m_text.size() || m_text.at(m_at) == QLatin1Char('\t') ||
+               m_text.at(m_at) == QLatin1Char('\n');
+    }
+
+    const QString &m_text;
+    int m_at = 0;
+};
+
+int widest(const QVector<QStringList> &cells)
+{
+    int columns = 0;
+    for (const QStringList &row : cells) {
+        columns = std::max(columns, row.size());
+    }
+    return columns;
+}
+
+void grow(QTextTable *table, int rows, int columns, TableGrowth growth)
+{
+    if (growth.columns && columns > table->columns()) {
+        const int most = std::max(table->columns(), MostCells / table->rows());
+        insertLines(table, Axis::Columns, table->columns(),
+                    std::min(columns, most) - table->columns());
+    }
+    if (growth.rows && rows > table->rows()) {
+        const int most = std::max(table->rows(), MostCells / table->columns());
+        insertLines(table, Axis::Rows, table->rows(), std::min(rows, most) - table->rows());
+    }
+}
+
+bool isFirstSlot(const QTextTableCell &cell, int row, int column)
+{
+    return cell.isValid() && cell.row() == row && cell.column() == column;
+}
+
+void setText(const QTextTableCell &cell, const QString &text, const QTextCharFormat &format)
+{
+    QTextCursor cursor = cell.firstCursorPosition();
+    cursor.setPosition(cell.lastPosition(), QTextCursor::KeepAnchor);
+    cursor.insertText(text, format);
+}
+
+} // namespace
+
+QVector<QStringList> cellsOf(const QString &text)
+{
+    if (!text.contains(QLatin1Char('\t'))) {
+        return {};
+    }
+    QString lines = text;
+    lines.replace(QLatin1String("\r\n"), QLatin1String("\n"));
+    lines.replace(QLatin1Char('\r'), QLatin1Char('\n'));
+    return CellReader(lines).rows();
+}
+
+int fillCells(QTextTable *table, int row, int column, const QVector<QStringList> &cells,
+              TableGrowth growth, const QTextCharFormat &format)
+{
+    if (table == nullptr || row < 0 || column < 0) {
+        return 0;
+    }
+    QTextCursor block = table->firstCursorPosition();
+    block.beginEditBlock();
+    grow(table, row + cells.size(), column + widest(cells), growth);
+    int left = 0;
+    for (int i = 0; i < cells.size(); ++i) {
+        for (int k = 0; k < cells.at(i).size(); ++k) {
+            const bool isInside = row + i < table->rows() && column + k < table->columns();
+            const QTextTableCell cell =
+                isInside ? table->cellAt(row + i, column + k) : QTextTableCell();
+            if (isFirstSlot(cell, row + i, column + k)) {
+                setText(cell, cells.at(i).at(k), format);
+            } else if (!cells.at(i).at(k).isEmpty()) {
+                ++left;
+            }
+        }
+    }
+    block.endEditBlock();
+    return left;
+}
+
+QPair<int, int> neighbourCell(const QTextTable &table, int row, int column, bool forward)
+{
+    const int step = forward ? 1 : -1;
+    const int count = table.rows() * table.columns();
+    for (int slot = row * table.columns() + column + step; slot >= 0 && slot < count;
+         slot += step) {
+        const int atRow = slot / table.columns();
+        const int atColumn = slot % table.columns();
+        if (isFirstSlot(table.cellAt(atRow, atColumn), atRow, atColumn)) {
+            return {atRow, atColumn};
+        }
+    }
+    return {-1, -1};
+}
+
+} // namespace lctrlsex
