@@ -16,6 +16,7 @@
 #include "pastedtext.h"
 #include "table/bindingmenus.h"
 #include "table/tablecommands.h"
+#include "table/tablemenu.h"
 
 #include <QEvent>
 #include <QKeyEvent>
@@ -27,6 +28,12 @@ namespace {
 
 constexpr int MergeDelay = 50;    // milliseconds
 constexpr int GrowthDelay = 1000; // the check takes longer than a key should
+
+bool isTab(const QKeyEvent &key)
+{
+    const bool isPlain = key.modifiers() == Qt::NoModifier || key.modifiers() == Qt::ShiftModifier;
+    return isPlain && (key.key() == Qt::Key_Tab || key.key() == Qt::Key_Backtab);
+}
 
 } // namespace
 
@@ -59,6 +66,8 @@ TextEdit::TextEdit(QWidget *parent)
 
     setupEditActions(toolBar);
     setupTextActions();
+    m_dataToolBar->addSeparator();
+    tableAction(m_dataToolBar);
     m_dataToolBar->addSeparator();
     const auto buttons = m_binding->buttons();
     for (QWidget *button : buttons) {
@@ -204,6 +213,7 @@ void TextEdit::CreateConnect()
 void TextEdit::Translate()
 {
     m_toolBar->translate();
+    translateTable();
     m_binding->retranslate();
     m_notice->translate();
     showNotice(m_publisher->notice());
@@ -243,6 +253,9 @@ bool TextEdit::eventFilter(QObject *watched, QEvent *event)
     }
     const auto &key = *static_cast<QKeyEvent *>(event);
     if (m_singleLine && (key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter)) {
+        return true;
+    }
+    if (isTab(key) && moveInTable(key.key() == Qt::Key_Tab)) {
         return true;
     }
     const QTextCursor cursor = m_view->textCursor();

@@ -28,6 +28,7 @@ class ItemConversion;
 class NodePublisher;
 class NoticeStrip;
 class TableCommands;
+class TableMenu;
 } // namespace lctrlsex
 
 /**
@@ -232,6 +233,12 @@ private:
     void flush();
     void letGo();
     void copyTableSettings();
+    /** Adds the table button with its menu to @p toolBar. */
+    void tableAction(QToolBar *toolBar);
+    void translateTable();
+    bool moveInTable(bool forward);
+    /** Fills cells of the table with what a spreadsheet copied; false when @p text is no more. */
+    bool pasteCells(const QString &text, const QTextCharFormat &format);
     void showGround();
     void redraw();
     void conversionEnded(int type, int outcome);
@@ -252,6 +259,8 @@ private:
     std::unique_ptr<lctrlsex::NodePublisher> m_publisher;
     std::unique_ptr<lctrlsex::FragmentMerger> m_merger;
     std::unique_ptr<lctrlsex::TableCommands> m_table;
+    std::unique_ptr<lctrlsex::TableMenu> m_tableMenu;
+    QAction *m_newTable = nullptr;
     std::unique_ptr<lctrlsex::BindingMenus> m_binding;
     std::unique_ptr<lctrlsex::FieldValues> m_fields;
     QToolBar *m_dataToolBar = nullptr;

@@ -227,6 +227,9 @@ void TextEdit::InsertCopyText(const QString &text)
     // Kept on purpose because screens are dark: pasted text takes the tool bar's look in white.
     const lctrlsex::TypingStyle style = m_toolBar->typingStyle(Qt::white);
     lctrlsex::PastedText pasted = lctrlsex::pastedText(text, m_singleLine);
+    if (pasted.refusal.isEmpty() && pasteCells(text, style.toFormat())) {
+        return;
+    }
     if (pasted.text.size() > AsGoodAsTyped) {
         pasted.refusal =
             lctrlsex::insertionProblem(m_view->textCursor(), pasted.text, style.toFormat());

@@ -8,145 +8,13 @@
 #include "nodecall.h"
 #include "nodepublisher.h"
 #include "table/bindingmenus.h"
-#include "table/tablecommands.h"
 #include "textedit.h"
+#include "viewmenu.h"
 
 #include <QAction>
-#include <QInputDialog>
 #include <QMenu>
-#include <QMessageBox>
 
 using lctrlsex::nodeCall;
-using lctrlsex::TableCommands;
-
-// Tables
-
-bool TextEdit::hasTable() const
-{
-    return m_table->hasTable();
-}
-
-void TextEdit::InsertTable()
-{
-    if (hasTable()) {
-        // On the heap and guarded: the host may delete the editor while the box is open.
-        QPointer<QMessageBox> box = new QMessageBox(
-            QMessageBox::Warning, tr("Insert Table"),
-            tr("Only one table can be inserted per editor."), QMessageBox::Ok, this);
-        box->exec();
-        delete box;
-        return;
-    }
-    LUM_EditInterface::LTableProperties record = m_view->tableSettings();
-    record.borderWidth = qMax(1, record.borderWidth);
-    record.cellPadding = qMax(1, record.cellPadding);
-    const int align = nodeCall(m_node, &LTextEffectNode::GetContentHAlign);
-    if (m_table->insert(record, Qt::Alignment(align))) {
-        emit m_view->TableTypeChangeSignal(record);
-    }
-}
-
-void TextEdit::TablePropModfy()
-{
-    const LUM_EditInterface::LTableProperties present = m_table->record();
-    LUM_EditInterface::LTableProperties record = present;
-    if (m_node != nullptr) {
-        record = m_node->GetTableProperties();
-        record.rows = present.rows; // a stale number of rows would throw rows away
-        record.columns = present.columns;
-    }
-    ModfTablePropertiesed(&record);
-}
-
-void TextEdit::ModfTablePropertiesed(LUM_EditInterface::LTableProperties *properties)
-{
-    if (properties != nullptr && m_table->current() != nullptr) {
-        m_table->reformat(*properties);
-        emit m_view->TableTypeChangeSignal(*properties);
-    }
-}
-
-void TextEdit::TableMenuShow()
-{
-    const auto *menu = qobject_cast<QMenu *>(sender());
-    if (menu == nullptr) {
-        return;
-    }
-    const TableCommands::MenuState state =
-        m_table->menuState(nodeCall(m_node, &LTextEffectNode::GetTableType));
-    const auto actions = menu->findChildren<QAction *>();
-    for (QAction *action : actions) {
-        const int code = action->data().toInt();
-        if (code >= TableCommands::InsertRowAbove && code <= TableCommands::DeleteRow) {
-            action->setEnabled(state.rows);
-        } else if (code >= TableCommands::InsertColumnLeft && code <= TableCommands::DeleteColumn) {
-            action->setEnabled(state.columns);
-        } else if (code == TableCommands::Merge) {
-            action->setEnabled(state.merge);
-        }
-    }
-}
-
-void TextEdit::TableOperate()
-{
-    const auto *action = qobject_cast<QAction *>(sender());
-    if (action == nullptr) {
-        return;
-    }
-    const int type = nodeCall(m_node, &LTextEffectNode::GetTableType);
-    const bool isVertical = action->text() == tr("Split Vertically");
-    if (type == 0 && (isVertical || action->text() == tr("Split Horizontally"))) {
-        TableSplitCell(isVertical);
-    } else {
-        m_table->operate(action->data().toInt(), type);
-    }
-}
-
-void TextEdit::TableSplitCell(bool vert)
-{
-    const QPointer<TextEdit> self = this;
-    const int attachment = m_attachment;
-    QPointer<QInputDialog> dialog = new QInputDialog(this);
-    dialog->setInputMode(QInputDialog::IntInput);
-    dialog->setWindowTitle(vert ? tr("Split Vertically") : tr("Split Horizontally"));
-    dialog->setLabelText(vert ? tr("Please enter the number of rows: ")
-                              : tr("Please enter the number of columns: "));
-    dialog->setIntRange(2, 100);
-    dialog->setIntValue(2);
-    const bool isAccepted = dialog->exec() == QDialog::Accepted && dialog != nullptr;
-    const int number = isAccepted ? dialog->intValue() : 0;
-    delete dialog;
-    if (self != nullptr && isAttached(attachment) && isAccepted) {
-        // Kept on purpose because users count so: the number less one is the number of parts.
-        m_table->splitCell(vert, number - 1);
-    }
-}
-
-void TextEdit::OnTableInfoChange(const LUM_EditInterface::LTableProperties &prop)
-{
-    const int attachment = m_attachment;
-    if (m_initialising || m_node.isNull()) {
-        return;
-    }
-    m_node->SetTableType(prop.type);
-    if (isAttached(attachment)) {
-        m_node->SetTableHeader(prop.header);
-    }
-    if (isAttached(attachment)) {
-        m_node->SetTableFixedHeader(prop.fixedHeader);
-    }
-    if (isAttached(attachment)) {
-        m_node->SetTableFillArea(prop.fillArea);
-    }
-    if (isAttached(attachment)) {
-        m_node->SetPageTurnDirection(prop.pageTurnDirection);
-    }
-    if (isAttached(attachment)) {
-        m_view->setTableSettings(prop);
-        m_publisher->forceStore();
-        TextDrawImage();
-    }
-}
 
 // Data
 
@@ -175,6 +43,7 @@ void TextEdit::RefreshDataSource()
     // A text without a table has this announced at every key.
     if (isAttached(attachment) && isNew) {
         m_binding->rebuild(m_fields->index, m_fields->expressions);
+        m_view->menuAdditions()->setFields(m_fields->index.fieldNames());
         UpdateBindKeys();
     }
 }

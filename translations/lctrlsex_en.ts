@@ -2,6 +2,16 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="en">
 <context>
+    <name>TextEdit</name>
+    <message numerus="yes">
+        <source>%n cell(s) that were pasted found no place in the table and were left out. Make the table larger first.</source>
+        <translation>
+            <numerusform>%n cell that was pasted found no place in the table and was left out. Make the table larger first.</numerusform>
+            <numerusform>%n cells that were pasted found no place in the table and were left out. Make the table larger first.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>workbench::MainWindow</name>
     <message numerus="yes">
         <source>The export was cancelled; %n page(s) are in %1.</source>

@@ -1209,6 +1209,223 @@
     </message>
 </context>
 <context>
+    <name>TableMenu</name>
+    <message>
+        <source>Insert Row Above</source>
+        <translation>在上方插入行</translation>
+    </message>
+    <message>
+        <source>Insert Row Below</source>
+        <translation>在下方插入行</translation>
+    </message>
+    <message>
+        <source>Delete Row</source>
+        <translation>删除行</translation>
+    </message>
+    <message>
+        <source>Insert Column Left</source>
+        <translation>在左侧插入列</translation>
+    </message>
+    <message>
+        <source>Insert Column Right</source>
+        <translation>在右侧插入列</translation>
+    </message>
+    <message>
+        <source>Delete Column</source>
+        <translation>删除列</translation>
+    </message>
+    <message>
+        <source>Merge Cells</source>
+        <translation>合并单元格</translation>
+    </message>
+    <message>
+        <source>Split Vertically</source>
+        <translation>垂直拆分</translation>
+    </message>
+    <message>
+        <source>Split Horizontally</source>
+        <translation>水平拆分</translation>
+    </message>
+    <message>
+        <source>Table Properties</source>
+        <translation>表格属性</translation>
+    </message>
+    <message>
+        <source>Rows</source>
+        <translation>行</translation>
+    </message>
+    <message>
+        <source>Columns</source>
+        <translation>列</translation>
+    </message>
+    <message>
+        <source>Split Cell</source>
+        <translation>拆分单元格</translation>
+    </message>
+</context>
+<context>
+    <name>TableProperty</name>
+    <message>
+        <source>Table property</source>
+        <translation>表格属性</translation>
+    </message>
+    <message>
+        <source>A table has at most 10,000 cells and is at most 16,384 pixels wide. Make it smaller.</source>
+        <translation>表格最多 10,000 个单元格，宽度最多 16,384 像素。请减小表格。</translation>
+    </message>
+    <message>
+        <source>Configuration</source>
+        <translation>配置</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>类型</translation>
+    </message>
+    <message>
+        <source>Fixed form</source>
+        <translation>固定表格</translation>
+    </message>
+    <message>
+        <source>Dynamic Rows</source>
+        <translation>动态行</translation>
+    </message>
+    <message>
+        <source>Dynamic Columns</source>
+        <translation>动态列</translation>
+    </message>
+    <message>
+        <source>Adaptive Rows and Columns</source>
+        <translation>自适应行列</translation>
+    </message>
+    <message>
+        <source>Table Head</source>
+        <translation>表头</translation>
+    </message>
+    <message>
+        <source>Freeze Top Row</source>
+        <translation>冻结首行</translation>
+    </message>
+    <message>
+        <source>Turn the page</source>
+        <translation>翻页</translation>
+    </message>
+    <message>
+        <source>Vertical</source>
+        <translation>垂直</translation>
+    </message>
+    <message>
+        <source>Horizontal</source>
+        <translation>水平</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>大小</translation>
+    </message>
+    <message>
+        <source>Row</source>
+        <translation>行</translation>
+    </message>
+    <message>
+        <source>Column</source>
+        <translation>列</translation>
+    </message>
+    <message>
+        <source>Width</source>
+        <translation>宽度</translation>
+    </message>
+    <message>
+        <source>Height</source>
+        <translation>高度</translation>
+    </message>
+    <message>
+        <source>Adaptive Region</source>
+        <translation>自适应区域</translation>
+    </message>
+    <message>
+        <source>Alignment and Color</source>
+        <translation>对齐和颜色</translation>
+    </message>
+    <message>
+        <source>Background color</source>
+        <translation>背景颜色</translation>
+    </message>
+    <message>
+        <source>Border and Margins</source>
+        <translation>边框和边距</translation>
+    </message>
+    <message>
+        <source>Margins in cell</source>
+        <translation>单元格边距</translation>
+    </message>
+    <message>
+        <source>pixels between cell border and its contets</source>
+        <translation>单元格边框与内容之间的像素</translation>
+    </message>
+    <message>
+        <source>Border Width</source>
+        <translation>边框宽度</translation>
+    </message>
+    <message>
+        <source>Border Color:</source>
+        <translation>边框颜色：</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>预览</translation>
+    </message>
+    <message>
+        <source>pixels</source>
+        <translation>像素</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>确定</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>Height of the table while its cells are empty</source>
+        <translation>单元格为空时表格的高度</translation>
+    </message>
+    <message>
+        <source>How much of the item&apos;s height the table takes</source>
+        <translation>表格占文本项高度的比例</translation>
+    </message>
+    <message>
+        <source>Stretch the table to the height of the page</source>
+        <translation>将表格拉伸到页面高度</translation>
+    </message>
+    <message>
+        <source>Repeat the first row on every page</source>
+        <translation>在每一页重复首行</translation>
+    </message>
+</context>
+<context>
+    <name>TableQuestions</name>
+    <message>
+        <source>Split Vertically</source>
+        <translation>垂直拆分</translation>
+    </message>
+    <message>
+        <source>Split Horizontally</source>
+        <translation>水平拆分</translation>
+    </message>
+    <message>
+        <source>Please enter the number of rows: </source>
+        <translation>请输入行数：</translation>
+    </message>
+    <message>
+        <source>Please enter the number of columns: </source>
+        <translation>请输入列数：</translation>
+    </message>
+    <message>
+        <source>Insert Table</source>
+        <translation>插入表格</translation>
+    </message>
+</context>
+<context>
     <name>TextEdit</name>
     <message>
         <source>Text</source>
@@ -1239,22 +1456,6 @@
         <translation>每个编辑器只能插入一个表格。</translation>
     </message>
     <message>
-        <source>Split Vertically</source>
-        <translation>垂直拆分</translation>
-    </message>
-    <message>
-        <source>Split Horizontally</source>
-        <translation>水平拆分</translation>
-    </message>
-    <message>
-        <source>Please enter the number of rows: </source>
-        <translation>请输入行数：</translation>
-    </message>
-    <message>
-        <source>Please enter the number of columns: </source>
-        <translation>请输入列数：</translation>
-    </message>
-    <message>
         <source>This text could not be opened again as it is now: %1</source>
         <translation>这段文本目前的状态将无法再次打开：%1</translation>
     </message>
@@ -1265,6 +1466,20 @@
     <message>
         <source>The text was not converted because it was changed meanwhile. Try again.</source>
         <translation>文本未转换，因为其间文本已被更改。请重试。</translation>
+    </message>
+    <message>
+        <source>New Table</source>
+        <translation>新建表格</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n cell(s) that were pasted found no place in the table and were left out. Make the table larger first.</source>
+        <translation>
+            <numerusform>粘贴的内容中有 %n 个单元格在表格中放不下，已忽略。请先扩大表格。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Modify table properties</source>
+        <translation>修改表格属性</translation>
     </message>
 </context>
 <context>
@@ -1504,6 +1719,109 @@
     <message>
         <source>Close this notice</source>
         <translation>关闭此通知</translation>
+    </message>
+</context>
+<context>
+    <name>lctrlsex::ViewMenu</name>
+    <message>
+        <source>Insert Table</source>
+        <translation>插入表格</translation>
+    </message>
+    <message>
+        <source>Insert field</source>
+        <translation>插入字段</translation>
+    </message>
+    <message>
+        <source>The data source has no fields</source>
+        <translation>该数据源没有字段</translation>
+    </message>
+    <message>
+        <source>Table Properties</source>
+        <translation>表格属性</translation>
+    </message>
+    <message>
+        <source>Row</source>
+        <translation>行</translation>
+    </message>
+    <message>
+        <source>Insert Row Above</source>
+        <translation>在上方插入行</translation>
+    </message>
+    <message>
+        <source>Insert Row Below</source>
+        <translation>在下方插入行</translation>
+    </message>
+    <message>
+        <source>Delete Row</source>
+        <translation>删除行</translation>
+    </message>
+    <message>
+        <source>Column</source>
+        <translation>列</translation>
+    </message>
+    <message>
+        <source>Insert Column Left</source>
+        <translation>在左侧插入列</translation>
+    </message>
+    <message>
+        <source>Insert Column Right</source>
+        <translation>在右侧插入列</translation>
+    </message>
+    <message>
+        <source>Delete Column</source>
+        <translation>删除列</translation>
+    </message>
+    <message>
+        <source>Align in Cell</source>
+        <translation>单元格内对齐</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>顶部</translation>
+    </message>
+    <message>
+        <source>Middle</source>
+        <translation>居中</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>底部</translation>
+    </message>
+    <message>
+        <source>Merge Cells</source>
+        <translation>合并单元格</translation>
+    </message>
+    <message>
+        <source>Unmerge</source>
+        <translation>取消合并</translation>
+    </message>
+    <message>
+        <source>Split Cell</source>
+        <translation>拆分单元格</translation>
+    </message>
+    <message>
+        <source>Split Vertically</source>
+        <translation>垂直拆分</translation>
+    </message>
+    <message>
+        <source>Split Horizontally</source>
+        <translation>水平拆分</translation>
+    </message>
+    <message>
+        <source>Only one table can be inserted per document.</source>
+        <translation>每个文档只能插入一个表格。</translation>
+    </message>
+    <message>
+        <source>Invalid table properties provided</source>
+        <translation>提供的表格属性无效</translation>
+    </message>
+    <message>
+        <source>Failed to insert table</source>
+        <translation>插入表格失败</translation>
+    </message>
+    <message>
+        <source>Modify table properties</source>
+        <translation>修改表格属性</translation>
     </message>
 </context>
 <context>
@@ -1966,6 +2284,10 @@ Free software under the MIT licence.</source>
     <message>
         <source>Wall: S&amp;top</source>
         <translation>显示墙：停止(&amp;T)</translation>
+    </message>
+    <message>
+        <source>Insert I&amp;mage...</source>
+        <translation>插入图片(&amp;M)...</translation>
     </message>
 </context>
 <context>

@@ -8,13 +8,16 @@
 #include "pagelines.h"
 #include "pastedtext.h"
 #include "table/tableground.h"
+#include "viewmenu.h"
 
 #include <QAbstractTextDocumentLayout>
 #include <QDropEvent>
 #include <QKeyEvent>
+#include <QMenu>
 #include <QMimeData>
 #include <QPaintEvent>
 #include <QPainter>
+#include <QPointer>
 #include <QScrollBar>
 
 namespace {
@@ -46,6 +49,7 @@ bool isToolBarShortcut(const QKeyEvent &event)
 LRichViewEdit::LRichViewEdit(QWidget *parent)
     : QTextEdit(parent)
     , m_document(new lctrlsex::ItemDocument(this))
+    , m_menu(new lctrlsex::ViewMenu(this))
 {
     m_document->setUndoRedoEnabled(true);
     setDocument(m_document);
@@ -242,6 +246,25 @@ void LRichViewEdit::dropEvent(QDropEvent *event)
     if (event->source() == nullptr) {
         event->setDropAction(Qt::CopyAction); // a file that was dropped stays where it was
     }
+}
+
+void LRichViewEdit::contextMenuEvent(QContextMenuEvent *event)
+{
+    // A click beside the selection is about the place that it hits.
+    const QTextCursor hit = cursorForPosition(event->pos());
+    const QTextCursor cursor = textCursor();
+    const bool isInside = cursor.hasSelection() && hit.position() >= cursor.selectionStart() &&
+                          hit.position() <= cursor.selectionEnd();
+    if (event->reason() == QContextMenuEvent::Mouse && !isInside) {
+        setTextCursor(hit);
+    }
+    // Guarded: the host may delete the view while the menu is open.
+    const QPointer<QMenu> menu = createStandardContextMenu(event->pos());
+    if (!m_hasPlainMenu) {
+        m_menu->addTo(menu);
+    }
+    menu->exec(event->globalPos());
+    delete menu;
 }
 
 bool LRichViewEdit::canInsertFromMimeData(const QMimeData *source) const

@@ -8,6 +8,7 @@ namespace lctrlsex {
 class ImageResize;
 struct InsertedPicture;
 class ItemDocument;
+class ViewMenu;
 struct TextSettings;
 } // namespace lctrlsex
 
@@ -42,6 +43,8 @@ public:
     /** The ground behind the text. A transparent one is shown as a chequered pattern. */
     void setGround(const QColor &color, bool isTransparent);
 
+    /** What the context menu offers beyond the toolkit's entries. */
+    [[nodiscard]] lctrlsex::ViewMenu *menuAdditions() const { return m_menu; }
     /**
      * Leaves the toolkit's own entries alone in the context menu; the wheel then leaves the band
      * over a picture where it is.
@@ -94,6 +97,7 @@ protected:
     void inputMethodEvent(QInputMethodEvent *event) override;
     void wheelEvent(QWheelEvent *event) override;
     void dropEvent(QDropEvent *event) override;
+    void contextMenuEvent(QContextMenuEvent *event) override;
     QMimeData *createMimeDataFromSelection() const override;
     bool canInsertFromMimeData(const QMimeData *source) const override;
     void insertFromMimeData(const QMimeData *source) override;
@@ -109,6 +113,7 @@ private:
     Q_DISABLE_COPY(LRichViewEdit)
 
     lctrlsex::ItemDocument *m_document;
+    lctrlsex::ViewMenu *m_menu;
     lctrlsex::ImageResize *m_imageResize;
     QSize m_itemSize;
     LUM_EditInterface::LTableProperties m_table;

@@ -247,6 +247,20 @@ void EditorPane::convertText(Conversion conversion)
     }
 }
 
+bool EditorPane::canInsertImage() const
+{
+    const QTextEdit *const view = textView();
+    return view != nullptr && !view->isReadOnly() &&
+           view->metaObject()->indexOfMethod("chooseImage()") >= 0;
+}
+
+void EditorPane::insertImage()
+{
+    if (canInsertImage()) {
+        QMetaObject::invokeMethod(textView(), "chooseImage");
+    }
+}
+
 bool EditorPane::eventFilter(QObject *watched, QEvent *event)
 {
     if (event->type() == QEvent::ShortcutOverride || event->type() == QEvent::KeyPress) {

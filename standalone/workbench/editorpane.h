@@ -54,6 +54,11 @@ public:
     /** Begins a conversion of the bound item's text; nothing happens where it is not possible. */
     void convertText(Conversion conversion);
 
+    /** Whether the plug-in's view takes a picture from a file now. */
+    [[nodiscard]] bool canInsertImage() const;
+    /** Lets the user choose one. */
+    void insertImage();
+
 signals:
     /** The user asked for an item where there is none. */
     void addItemWanted();

@@ -177,6 +177,7 @@ private:
     QAction *m_paste = nullptr;
     QVector<QAction *> m_conversions;
     QAction *m_antialiasingOff = nullptr; ///< One of them.
+    QAction *m_insertImage = nullptr;
     QAction *m_ledGrid = nullptr;
     QAction *m_play = nullptr;
     QAction *m_stop = nullptr;

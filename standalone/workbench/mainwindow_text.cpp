@@ -21,6 +21,10 @@ void MainWindow::buildTextMenu()
         m_conversions.append(action);
         return action;
     };
+    m_insertImage = addAction(
+        menu, QStringLiteral("InsertImage"), [] { return tr("Insert I&mage..."); },
+        [this] { m_editor->insertImage(); });
+    menu->addSeparator();
     add(
         QStringLiteral("InvertColours"), [] { return tr("&Invert Colours"); },
         EditorPane::InvertColors);
@@ -41,6 +45,7 @@ void MainWindow::updateTextActions()
     for (QAction *action : qAsConst(m_conversions)) {
         action->setEnabled(isPossible);
     }
+    m_insertImage->setEnabled(m_editor->canInsertImage());
     const LTextEffectNode *item = m_editor->node();
     m_antialiasingOff->setChecked(item != nullptr && !item->GetTextAntialias());
 }
