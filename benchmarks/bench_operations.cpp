@@ -78,7 +78,8 @@ void tenSteps(benchmark::State &state, const QStringList &steps)
                          {toDouble});
 }
 
-/** The dearest 64 steps of split or strcat: every one works on the longest text until it is too much. */
+/** The dearest 64 steps of split or strcat: every one works on the longest text until it is too
+ * much. */
 void hostileSteps(benchmark::State &state)
 {
     QVector<QString> values{QString(longestOperationText, QLatin1Char('a')),

@@ -28,7 +28,7 @@ void TextEdit::tableAction(QToolBar *toolBar)
 {
     m_newTable = new QAction(this);
     m_newTable->setObjectName(QStringLiteral("actionNewTable"));
-    m_newTable->setIcon(QIcon(QStringLiteral(":/images/table.png")));
+    m_newTable->setIcon(QIcon(QStringLiteral(":images/table.png")));
     connect(m_newTable, SIGNAL(triggered()), this, SLOT(InsertTable()));
     auto *menu = new QMenu(toolBar);
     menu->setObjectName(QStringLiteral("TableMenu"));

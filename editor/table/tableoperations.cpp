@@ -6,8 +6,6 @@
 #include <QTextDocumentFragment>
 #include <QTextTable>
 
-#include <algorithm>
-
 namespace lctrlsex {
 
 namespace {
@@ -52,18 +50,22 @@ void mergeAll(QTextTable *table, const QVector<Span> &spans)
 /** The merged cells that a change of @p count lines from @p at must not meet as they are. */
 QVector<Span> spansInReach(const QTextTable &table, Axis axis, int at, int count)
 {
-    QVector<Span> spans = mergedCells(table);
     if (axis == Axis::Columns) {
-        return spans; // the text engine misplaces columns beside any cell of several rows
+        return mergedCells(table); // the text engine misplaces columns beside any cell of rows
     }
-    QVector<Span> inReach;
-    const Span lines = Span{0, 0, table.rows(), table.columns()}.withLines(axis, at - 1, count + 2);
-    for (const Span &span : qAsConst(spans)) {
-        if (span.meets(lines)) {
-            inReach.append(span);
-        }
+    const Span whole{0, 0, table.rows(), table.columns()};
+    return mergedCells(table, whole.withLines(axis, at - 1, count + 2));
+}
+
+/** The smallest area that holds @p area and cuts no merged cell. */
+Span grownOverMerged(const QTextTable &table, Span area)
+{
+    for (bool grew = true; grew;) {
+        const Span before = area;
+        area = grownOver(area, mergedCells(table, area));
+        grew = area != before;
     }
-    return inReach;
+    return area;
 }
 
 bool isEmpty(const QTextTableCell &cell)
@@ -159,11 +161,31 @@ Span spanOf(const QTextTableCell &cell)
 
 QVector<Span> mergedCells(const QTextTable &table)
 {
+    return mergedCells(table, {0, 0, table.rows(), table.columns()});
+}
+
+// What a cell covers costs far more to ask than whether two slots have the same cell.
+QVector<Span> mergedCells(const QTextTable &table, const Span &area)
+{
+    const int firstRow = qMax(0, area.row);
+    const int firstColumn = qMax(0, area.column);
+    const int endRow = qMin(table.rows(), area.row + area.rows);
+    const int endColumn = qMin(table.columns(), area.column + area.columns);
     QVector<Span> spans;
-    for (int row = 0; row < table.rows(); ++row) {
-        for (int column = 0; column < table.columns(); ++column) {
-            const Span span = spanOf(table.cellAt(row, column));
-            if (!span.isSingle() && span.row == row && span.column == column) {
+    for (int row = firstRow; row < endRow; ++row) {
+        for (int column = firstColumn; column < endColumn; ++column) {
+            const QTextTableCell cell = table.cellAt(row, column);
+            const auto covers = [&table, &cell](int otherRow, int otherColumn) {
+                return otherRow >= 0 && otherRow < table.rows() && otherColumn >= 0 &&
+                       otherColumn < table.columns() && table.cellAt(otherRow, otherColumn) == cell;
+            };
+            if (!covers(row, column + 1) && !covers(row + 1, column) &&
+                (column > firstColumn || !covers(row, column - 1)) &&
+                (row > firstRow || !covers(row - 1, column))) {
+                continue;
+            }
+            const Span span = spanOf(cell);
+            if (row == qMax(firstRow, span.row) && column == qMax(firstColumn, span.column)) {
                 spans.append(span);
             }
         }
@@ -227,16 +249,10 @@ bool mergeCells(QTextTable *table, const Span &area)
         area.row + area.rows > table->rows() || area.column + area.columns > table->columns()) {
         return false;
     }
-    const QVector<Span> all = mergedCells(*table);
-    const Span grown = grownOver(area, all);
-    if (grown.isSingle() || all.contains(grown)) {
+    const Span grown = grownOverMerged(*table, area);
+    const QVector<Span> inside = mergedCells(*table, grown);
+    if (grown.isSingle() || inside.contains(grown)) {
         return false;
-    }
-    QVector<Span> inside;
-    for (const Span &span : all) {
-        if (span.meets(grown)) {
-            inside.append(span);
-        }
     }
     const EditBlock block(*table);
     splitAll(table, inside);
@@ -265,10 +281,7 @@ bool splitCell(QTextTable *table, int row, int column, Axis axis, int pieces)
 
 bool unmergeCells(QTextTable *table, const Span &area)
 {
-    QVector<Span> merged = table != nullptr ? mergedCells(*table) : QVector<Span>();
-    merged.erase(std::remove_if(merged.begin(), merged.end(),
-                                [&area](const Span &span) { return !span.meets(area); }),
-                 merged.end());
+    const QVector<Span> merged = table != nullptr ? mergedCells(*table, area) : QVector<Span>();
     if (merged.isEmpty()) {
         return false;
     }

@@ -21,6 +21,8 @@ namespace lctrlsex {
 
 /** Every merged cell, row by row. */
 [[nodiscard]] QVector<Span> mergedCells(const QTextTable &table);
+/** Those that have a slot in @p area, which may reach beyond the table. */
+[[nodiscard]] QVector<Span> mergedCells(const QTextTable &table, const Span &area);
 
 /**
  * Inserts @p count empty rows or columns before line @p at; the number of lines appends. A merged

@@ -7,8 +7,8 @@
 #include <QAction>
 #include <QColorDialog>
 #include <QMenu>
-#include <QTimer>
 #include <QTest>
+#include <QTimer>
 
 /** What a host may do while a modal dialog or a menu of the plug-in is open. */
 class TestLifecycleDialogs : public QObject
