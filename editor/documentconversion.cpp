@@ -1,5 +1,6 @@
 #include "documentconversion.h"
 
+#include "behindtable.h"
 #include "htmlguard.h"
 #include "itemdocument.h"
 
@@ -172,6 +173,7 @@ std::optional<ConvertedColors> convertColors(const QString &html, ColorConversio
     document.setDefaultStyleSheet(QStringLiteral("a { text-decoration: none; }")); // as in the view
     document.setDefaultFont(bodyFont(guarded.html));
     document.setHtml(guarded.html);
+    removeUnwrittenBlank(&document, guarded.html);
     return convertColors(&document, conversion, stop, report);
 }
 

@@ -1,5 +1,6 @@
 #include "documentexport.h"
 
+#include "behindtable.h"
 #include "documentstorage.h"
 #include "htmlunits.h"
 
@@ -78,8 +79,13 @@ ExportedDocument DocumentExport::texts()
     if (m_document->rootFrame()->childFrames().isEmpty() && writeChanged()) {
         return joined();
     }
+    QString html = m_document->toHtml();
+    const QTextBlock blank = unwrittenBlank(*m_document);
+    if (blank.isValid()) {
+        html = withParagraphBehindTable(html, m_markup.of(blank).before.stored);
+    }
     // Both forms hold the same text, lone surrogates in neither.
-    const QString html = wellFormed(m_document->toHtml());
+    html = wellFormed(html);
     return {encodeUtf8(html.toUtf8()), replacePtWithPx(html)};
 }
 

@@ -27,7 +27,8 @@ struct ExportedDocument
  * QTextDocument::toHtml() gives, to the byte.
  *
  * A document with tables, frames or lists is left to QTextDocument::toHtml(), which writes all of
- * it. GUI thread; the document is to have a layout, without which it does not tell of changes.
+ * it but a blank line behind a table: that is added, see unwrittenBlank(). GUI thread; the document
+ * is to have a layout, without which it does not tell of changes.
  */
 class DocumentExport
 {

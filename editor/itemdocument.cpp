@@ -1,5 +1,6 @@
 #include "itemdocument.h"
 
+#include "behindtable.h"
 #include "rasterimage.h"
 
 #include <QFile>
@@ -39,6 +40,7 @@ void ItemDocument::loadItem(const QString &html, const TextSettings &settings)
     m_images.clear();
     preparePage(this, settings);
     setHtml(html);
+    removeUnwrittenBlank(this, html);
     pointsToPixels(this);
     applyLetterSpacing(this, settings);
 }

@@ -1,5 +1,6 @@
 #include "lrichviewedit.h"
 
+#include "behindtable.h"
 #include "documentsetup.h"
 #include "fragmentmerge.h"
 #include "imageinsertion.h"
@@ -68,6 +69,7 @@ void LRichViewEdit::load(const QString &html, const lctrlsex::TextSettings &sett
     m_document->clearForView(settings);
     // Only the view's own way in leaves the cursor at the start without laying out everything.
     setHtml(html);
+    lctrlsex::removeUnwrittenBlank(m_document, html);
     lctrlsex::pixelsToPoints(m_document);
     setTextCursor(QTextCursor(m_document)); // one that has the format of the text
     lctrlsex::applyLetterSpacing(m_document, settings);
