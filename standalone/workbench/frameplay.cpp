@@ -197,9 +197,9 @@ void FramePlay::prepareNext()
     if (at.item == m_shown.item && at.moment.phase == PlayPhase::Clearing) {
         at = m_timeline.at(next + at.moment.millisecondsLeft);
     }
-    const QPointer<LTextEffectNode> node = m_entries.at(at.item).node;
+    LTextEffectNode *const node = m_entries.at(at.item).node;
     const bool isHere = m_page.node == node && m_page.index == at.moment.page;
-    if (node && !isHere && (m_next.node != node || m_next.index != at.moment.page)) {
+    if (node != nullptr && !isHere && (m_next.node != node || m_next.index != at.moment.page)) {
         m_next = {node, at.moment.page, pageImage(at.item, at.moment.page)};
     }
 }

@@ -1,9 +1,9 @@
 #pragma once
 
+#include "livenode.h"
 #include "timeline.h"
 
 #include <QImage>
-#include <QPointer>
 #include <QVector>
 
 class LTextEffectNode;
@@ -51,12 +51,12 @@ public:
 private:
     struct Entry
     {
-        QPointer<LTextEffectNode> node;
+        LiveNode<LTextEffectNode> node;
         int pageCount = -1; ///< -1 when it must be asked for.
     };
     struct Page
     {
-        QPointer<LTextEffectNode> node;
+        LiveNode<LTextEffectNode> node;
         int index = -1;
         QImage image;
     };

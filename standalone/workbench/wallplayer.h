@@ -2,6 +2,7 @@
 
 #include "frameplay.h"
 #include "lframenode.h"
+#include "livenode.h"
 #include "lscreennode.h"
 
 #include <QElapsedTimer>
@@ -72,7 +73,7 @@ protected:
 private:
     struct Frame
     {
-        QPointer<LFrameNode> node;
+        LiveNode<LFrameNode> node;
         FramePlay play;
     };
 
