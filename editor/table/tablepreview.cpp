@@ -21,7 +21,6 @@ TablePreview::TablePreview(QWidget *parent)
 {
     setObjectName(QStringLiteral("tablePreview"));
     m_document.setUndoRedoEnabled(false);
-    m_document.setDocumentMargin(0);
 }
 
 void TablePreview::setItemSize(const QSize &size)
@@ -60,7 +59,8 @@ void TablePreview::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
     painter.fillRect(rect(), palette().color(QPalette::Mid));
-    const QSize whole = m_itemSize.isEmpty() ? m_tableSize : m_itemSize.expandedTo(m_tableSize);
+    const QSize page = m_tableSize + QSize(2 * pageMargin(), 2 * pageMargin());
+    const QSize whole = m_itemSize.isEmpty() ? page : m_itemSize.expandedTo(page);
     if (whole.isEmpty()) {
         return;
     }

@@ -24,6 +24,9 @@ public:
     /** Height of the table in pixels while it is empty; 0 without one. */
     [[nodiscard]] int tableHeight() const { return m_tableSize.height(); }
 
+    /** Pixels that a page leaves free at each side. */
+    [[nodiscard]] int pageMargin() const { return qRound(m_document.documentMargin()); }
+
     [[nodiscard]] QSize sizeHint() const override;
 
 protected:

@@ -67,6 +67,7 @@ void TableProperties::connectForm()
          {form.SBRows, form.SBColumns, form.SBWidth, form.SBCellPadding, form.SBBorder}) {
         connect(box, SIGNAL(valueChanged(int)), this, SLOT(ShowPreview()));
     }
+    connect(form.SBColumns, SIGNAL(valueChanged(int)), this, SLOT(SpreadColumns()));
     connect(form.CBHeight, SIGNAL(toggled(bool)), this, SLOT(ShowPreview()));
     connect(form.buttonBox, SIGNAL(accepted()), this, SLOT(accept()));
     connect(form.buttonBox, SIGNAL(rejected()), this, SLOT(reject()));
@@ -76,8 +77,19 @@ void TableProperties::setItemSize(const QSize &size)
 {
     m_itemSize = size;
     m_form->preview->setItemSize(size);
-    m_form->SBWidth->setValue(size.width() / m_form->SBColumns->value());
+    SpreadColumns();
     ShowPreview();
+}
+
+void TableProperties::SpreadColumns()
+{
+    QSpinBox *const width = m_form->SBWidth;
+    if (m_isNew && !m_itemSize.isEmpty() &&
+        (m_spreadWidth == 0 || width->value() == m_spreadWidth)) {
+        const int room = m_itemSize.width() - 2 * m_form->preview->pageMargin();
+        width->setValue(room / m_form->SBColumns->value());
+        m_spreadWidth = width->value();
+    }
 }
 
 void TableProperties::accept()

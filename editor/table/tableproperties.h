@@ -29,7 +29,7 @@ public:
 
     /**
      * The item's size in pixels, in which the preview shows the table; empty when unknown. Gives a
-     * new table columns that share the item's width, so that it is to be called first.
+     * new table columns that share the page's width, so that it is to be called first.
      */
     void setItemSize(const QSize &size);
 
@@ -49,6 +49,8 @@ private slots:
     void ChooseTableColor();
     void ChooseBorderColor();
     void ShowPreview();
+    /** Lets the columns of a new table share the page's width until another one is entered. */
+    void SpreadColumns();
 
 private:
     void connectForm();
@@ -62,5 +64,6 @@ private:
     unsigned int m_tableColor;
     unsigned int m_borderColor;
     QSize m_itemSize;
+    int m_spreadWidth = 0; ///< What SpreadColumns() set last.
     bool m_isNew = true;
 };

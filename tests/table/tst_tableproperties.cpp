@@ -26,6 +26,8 @@ private slots:
         QCOMPARE(dialog.objectName(), QString("TableProperty"));
         QCOMPARE(dialog.windowTitle(), QString("Table property"));
         dialog.setProperties(nullptr, true);
+        child<QSpinBox>(dialog, "SBColumns")->setValue(3);
+        QCOMPARE(dialog.value().width, 60);
         const LTableProperties record = dialog.value();
         QCOMPARE(record.rows, 2);
         QCOMPARE(record.cellPadding + record.borderWidth, 2);
@@ -102,7 +104,12 @@ private slots:
         TableProperties dialog;
         dialog.setItemSize(QSize(256, 64));
         dialog.setProperties(nullptr, true);
-        QCOMPARE(dialog.value().width, 128);
+        QCOMPARE(dialog.value().width, 124);
+        child<QSpinBox>(dialog, "SBColumns")->setValue(4);
+        QCOMPARE(dialog.value().width, 62);
+        child<QSpinBox>(dialog, "SBWidth")->setValue(50);
+        child<QSpinBox>(dialog, "SBColumns")->setValue(2);
+        QCOMPARE(dialog.value().width, 50);
         auto *ok = child<QDialogButtonBox>(dialog, "buttonBox")->button(QDialogButtonBox::Ok);
         QSignalSpy accepted(&dialog, &QDialog::accepted);
         for (const int rows : {5001, 5000}) {
