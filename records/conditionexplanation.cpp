@@ -1,5 +1,6 @@
 #include "condition.h"
 #include "conditiondetail.h"
+#include "shorttext.h"
 
 #include <QCoreApplication>
 
@@ -12,17 +13,9 @@ struct ConditionTexts
     Q_DECLARE_TR_FUNCTIONS(ConditionTexts)
 };
 
-/** @p text on one line, cut to what a reader needs to know it again. */
 QString shown(const QString &text)
 {
-    constexpr int Longest = 60;
-    QString result;
-    const QVector<uint> characters = text.left(2 * Longest).toUcs4();
-    for (int i = 0; i < characters.size() && i < Longest; ++i) {
-        const uint character = QChar::isPrint(characters.at(i)) ? characters.at(i) : 0xfffd;
-        result += QString::fromUcs4(&character, 1);
-    }
-    return characters.size() > Longest ? result + QChar(0x2026) : result;
+    return shortText(text, 60);
 }
 
 /** A number as it was written, a text in quotes. */

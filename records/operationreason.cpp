@@ -1,4 +1,5 @@
 #include "operationchain.h"
+#include "shorttext.h"
 
 #include <QCoreApplication>
 
@@ -14,8 +15,7 @@ struct OperationTexts
 
 QString shown(const QString &text)
 {
-    constexpr int longest = 40;
-    return text.size() <= longest ? text : text.left(longest - 1) + QChar(0x2026);
+    return shortText(text, 40);
 }
 
 /** A reason that tells of an argument; its text is %3. */

@@ -4,6 +4,7 @@
 #include "ltexteffectnode.h"
 #include "operationchain.h"
 #include "recordsjson.h"
+#include "shorttext.h"
 
 #include <QCoreApplication>
 
@@ -12,6 +13,8 @@ namespace player {
 using namespace lctrlsex;
 
 namespace {
+
+constexpr int NameShown = 40;
 
 /** Texts of this file, under one name for translators. */
 struct RecordsCheckTexts
@@ -68,7 +71,7 @@ private:
             const QString flaw = Condition(entry.conditions.at(i)).flaw();
             if (!flaw.isEmpty()) {
                 warn(RecordsCheckTexts::tr("conditional style %1, condition %2")
-                         .arg(entry.name, QString::number(i + 1)),
+                         .arg(shortText(entry.name, NameShown), QString::number(i + 1)),
                      flaw, RecordsCheckTexts::tr("change the condition or delete it"));
             }
         }
@@ -87,7 +90,8 @@ private:
             case OperationProblem::LaterStep:
             case OperationProblem::OwnStep:
             case OperationProblem::NoSuchStep:
-                warn(RecordsCheckTexts::tr("calculation %1").arg(calculation.key),
+                warn(RecordsCheckTexts::tr("calculation %1")
+                         .arg(shortText(calculation.key, NameShown)),
                      chain.reason(i, {}, results),
                      RecordsCheckTexts::tr("change the step or delete it"));
                 break;

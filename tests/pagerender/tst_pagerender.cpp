@@ -412,6 +412,10 @@ void TestPagerender::checksRecords()
           "there is no operator \"power\""}) {
         QVERIFY2(broken.contains(QLatin1String(reason)), qPrintable(broken));
     }
+    const QString lines =
+        said(R"([{"name":"a\nb","conditions":[{}]}])",
+             R"([{"key":"c\nd","expressions":[{"expression":{"func":"e\nf"}}]}])");
+    QVERIFY2(lines.count(QLatin1Char('\n')) == 2, qPrintable(lines));
     QVERIFY(said(QStringLiteral("[{"), QStringLiteral("[]"))
                 .contains(QStringLiteral("they cannot be read from character 2 on")));
 }
