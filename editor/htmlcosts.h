@@ -21,7 +21,7 @@ inline constexpr double longestParagraph = 500000;
 inline constexpr double greatestHeight = 3000000;
 inline constexpr double greatestWidth = 4000000;
 inline constexpr double mostMemory = 220e6;
-inline constexpr double mostWork = 1e9;
+inline constexpr double mostWork = 1.6e9;
 
 // Measured with Qt 5.15.8, in nanoseconds and bytes, rounded up.
 inline constexpr double openTagTime = 1500;

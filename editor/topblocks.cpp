@@ -1,12 +1,14 @@
 #include "topblocks.h"
 
 #include "documentsetup.h"
+#include "toprows.h"
 
+#include <QAbstractTextDocumentLayout>
 #include <QImage>
 #include <QTextBlock>
 #include <QTextCursor>
 #include <QTextDocumentFragment>
-#include <QTextFrame>
+#include <QTextTable>
 #include <QUrl>
 
 namespace lctrlsex {
@@ -84,8 +86,11 @@ QTextDocument *TopBlocks::documentFor(const QTextDocument *source, const QSize &
     if (source != m_source) {
         attach(source);
     }
-    if (!m_isCurrent || size != m_size || (m_editedBlock != -1 && !takeEditedBlock())) {
-        rebuild(size);
+    const bool isCurrent = m_isCurrent && size == m_size;
+    m_size = size;
+    if (!isCurrent || (m_editedBlock != -1 && !takeEditedBlock()) ||
+        (m_cut != nullptr && !hasSameColumns(*m_cut, *m_cutCopy))) {
+        rebuild();
     }
     m_editedBlock = -1;
     return m_copy;
@@ -137,52 +142,102 @@ bool TopBlocks::takeEditedBlock()
     cursor.beginEditBlock();
     cursor.movePosition(QTextCursor::EndOfBlock, QTextCursor::KeepAnchor);
     cursor.removeSelectedText();
-    QTextCharFormat empty = block.charFormat();
-    pointsToPixels(&empty);
-    cursor.setBlockFormat(block.blockFormat());
-    cursor.setBlockCharFormat(empty);
-    bool isWhole = true;
-    for (auto it = block.begin(); !it.atEnd(); ++it) {
-        QTextCharFormat format = it.fragment().charFormat();
-        isWhole = isWhole && format.objectIndex() == -1;
-        pointsToPixels(&format);
-        cursor.insertText(it.fragment().text(), format);
-    }
+    const bool isWhole = copyBlock(block, &cursor);
     cursor.endEditBlock();
     // A shorter paragraph may let in text that was not copied.
-    const bool isAllOfSource = m_end >= m_source->characterCount() - 1;
-    return isWhole && (isAllOfSource || m_copy->size().height() > m_size.height());
+    return isWhole && reachesBelowPage();
 }
 
-void TopBlocks::rebuild(const QSize &size)
+/** Whether nothing of the source that is not in the copy can show on the page. */
+bool TopBlocks::reachesBelowPage() const
+{
+    if (m_cut != nullptr) {
+        // The copied table ends with a border, and a blank line follows it, where rows should.
+        const QTextTableFormat format = m_cutCopy->format();
+        const QRectF shown = m_copy->documentLayout()->frameBoundingRect(m_cutCopy);
+        const qreal edge = format.bottomMargin() + 3 * format.border() + format.cellSpacing();
+        return shown.bottom() - edge > m_size.height();
+    }
+    return m_end >= m_source->characterCount() - 1 || m_copy->size().height() > m_size.height();
+}
+
+/** The table in which the first @p characters of the source end; null when they end elsewhere. */
+QTextTable *TopBlocks::tableToCut(int characters) const
+{
+    const QList<QTextFrame *> frames = m_source->rootFrame()->childFrames();
+    for (QTextFrame *frame : frames) {
+        if (frame->lastPosition() >= characters) {
+            return frame->firstPosition() <= characters ? qobject_cast<QTextTable *>(frame)
+                                                        : nullptr;
+        }
+    }
+    return nullptr;
+}
+
+/** Copies what is before a table and its first rows; false when it has to be copied whole. */
+bool TopBlocks::copyUpToRow(QTextTable *table, int wanted)
+{
+    const int rows = rowsWithoutCut(*table, wanted);
+    if (rows == table->rows()) {
+        return false;
+    }
+    makeCopy(table->firstPosition() - 1);
+    QTextCursor to(m_copy);
+    to.movePosition(QTextCursor::End);
+    to.beginEditBlock();
+    const bool isCopied = copyTopRows(*table, rows, &to);
+    to.endEditBlock();
+    if (!isCopied) {
+        return false;
+    }
+    m_cut = table;
+    m_cutCopy = qobject_cast<QTextTable *>(m_copy->rootFrame()->childFrames().last());
+    m_end = table->cellAt(rows, 0).firstPosition() - 1;
+    layOutCopy();
+    return hasSameColumns(*m_cut, *m_cutCopy);
+}
+
+/** A fresh copy of the source up to @p end. */
+void TopBlocks::makeCopy(int end)
+{
+    m_cut = nullptr;
+    m_end = end;
+    delete m_copy;
+    auto *copy = new BorrowingDocument(this);
+    copy->lender = m_source;
+    m_copy = copy;
+    copySettings(copy);
+    QTextCursor from(const_cast<QTextDocument *>(m_source.data()));
+    from.setPosition(m_end, QTextCursor::KeepAnchor);
+    QTextCursor to(copy);
+    to.insertFragment(QTextDocumentFragment(from));
+    // What is inserted into an empty first block leaves that block its own format.
+    to.setPosition(0);
+    to.setBlockFormat(m_source->firstBlock().blockFormat());
+}
+
+void TopBlocks::layOutCopy()
+{
+    pointsToPixels(m_copy);
+    m_copy->setTextWidth(m_size.width());
+}
+
+void TopBlocks::rebuild()
 {
     const int last = m_source->characterCount() - 1;
-    int characters = size.width() * size.height() / AreaOfCharacter + 64;
-    int blocks = size.height() / LeastLineHeight + 2;
-    Q_FOREVER
-    {
-        m_end = qMin(endOfTop(characters, blocks), last);
-        delete m_copy;
-        auto *copy = new BorrowingDocument(this);
-        copy->lender = m_source;
-        m_copy = copy;
-        copySettings(copy);
-        QTextCursor from(const_cast<QTextDocument *>(m_source.data()));
-        from.setPosition(m_end, QTextCursor::KeepAnchor);
-        QTextCursor to(copy);
-        to.insertFragment(QTextDocumentFragment(from));
-        // What is inserted into an empty first block leaves that block its own format.
-        to.setPosition(0);
-        to.setBlockFormat(m_source->firstBlock().blockFormat());
-        pointsToPixels(copy);
-        copy->setTextWidth(size.width());
-        if (m_end >= last || copy->size().height() > size.height()) {
-            break;
+    int characters = m_size.width() * m_size.height() / AreaOfCharacter + 64;
+    int blocks = m_size.height() / LeastLineHeight + 2;
+    bool mayCut = true;
+    do {
+        QTextTable *table = mayCut ? tableToCut(characters) : nullptr;
+        mayCut = table != nullptr && copyUpToRow(table, blocks);
+        if (!mayCut) {
+            makeCopy(qMin(endOfTop(characters, blocks), last));
+            layOutCopy();
         }
         characters *= 2;
         blocks *= 2;
-    }
-    m_size = size;
+    } while (!reachesBelowPage());
     m_blockCount = m_source->blockCount();
     m_isCurrent = true;
 }

@@ -4,6 +4,7 @@
 #include <QPointer>
 #include <QSize>
 #include <QTextDocument>
+#include <QTextTable>
 
 namespace lctrlsex {
 
@@ -14,7 +15,8 @@ namespace lctrlsex {
  * A page is drawn from here and never from the document that a view shows, because the view lays
  * that one out again at its own width behind the painter's back. The copy costs what the page
  * costs, whatever the length of the document, and is kept until an edit reaches it; one within a
- * paragraph is followed there.
+ * paragraph is followed there. Of a long table only the first rows are copied, as long as the
+ * document is laid out and its columns are no wider for what stands further down.
  */
 class TopBlocks : public QObject
 {
@@ -36,12 +38,19 @@ private:
     void onContentsChange(int position, int removed, int added);
     void attach(const QTextDocument *source);
     void copySettings(QTextDocument *target) const;
-    void rebuild(const QSize &size);
+    void rebuild();
+    void makeCopy(int end);
+    void layOutCopy();
+    [[nodiscard]] bool copyUpToRow(QTextTable *table, int wanted);
     [[nodiscard]] bool takeEditedBlock();
+    [[nodiscard]] bool reachesBelowPage() const;
+    [[nodiscard]] QTextTable *tableToCut(int characters) const;
     [[nodiscard]] int endOfTop(int characters, int blocks) const;
 
     QPointer<const QTextDocument> m_source;
     QTextDocument *m_copy = nullptr;
+    QPointer<QTextTable> m_cut; ///< Of the source; null when no table is cut.
+    QPointer<QTextTable> m_cutCopy;
     QSize m_size;
     int m_end = 0;          ///< Position in the source behind the last copied character.
     int m_blockCount = 0;   ///< Of the source.

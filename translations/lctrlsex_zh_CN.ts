@@ -1270,8 +1270,8 @@
         <translation>表格属性</translation>
     </message>
     <message>
-        <source>A table has at most 10,000 cells and is at most 16,384 pixels wide. Make it smaller.</source>
-        <translation>表格最多 10,000 个单元格，宽度最多 16,384 像素。请减小表格。</translation>
+        <source>A table has at most 20,000 cells and is at most 16,384 pixels wide. Make it smaller.</source>
+        <translation>表格最多 20,000 个单元格，宽度最多 16,384 像素。请减小表格。</translation>
     </message>
     <message>
         <source>Configuration</source>

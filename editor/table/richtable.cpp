@@ -14,7 +14,6 @@ namespace lctrlsex {
 
 namespace {
 
-constexpr int MostCells = 10000;
 constexpr int WidestBorder = 999;
 constexpr int WidestTable = 16384;
 /** With this type the first column is the header. */
@@ -105,7 +104,8 @@ QTextTable *firstTable(const QTextDocument *document)
 
 bool isUsable(const LTableProperties &record)
 {
-    return record.rows > 0 && record.columns > 0 && record.rows <= MostCells / record.columns &&
+    return record.rows > 0 && record.columns > 0 &&
+           record.rows <= MostTableCells / record.columns &&
            isWithin(record.borderWidth, WidestBorder) &&
            isWithin(record.cellPadding, WidestBorder) &&
            isWithin(record.width, WidestTable / record.columns);

@@ -14,10 +14,13 @@ namespace lctrlsex {
 /** The first table of @p document that is not inside another; null when there is none. */
 [[nodiscard]] QTextTable *firstTable(const QTextDocument *document);
 
+/** Cells of a table that an author makes; laying out as many takes about half a second. */
+constexpr int MostTableCells = 20000;
+
 /**
- * Whether a table can be made from @p record: at least one row and one column, at most 10 000
- * cells, border and padding from 0 to 999 pixels, and columns that together are no wider than
- * 16 384 pixels.
+ * Whether a table can be made from @p record: at least one row and one column, at most
+ * MostTableCells cells, border and padding from 0 to 999 pixels, and columns that together are no
+ * wider than 16 384 pixels.
  */
 [[nodiscard]] bool isUsable(const LUM_EditInterface::LTableProperties &record);
 

@@ -1,5 +1,6 @@
 #include "tablecells.h"
 
+#include "table/richtable.h"
 #include "table/tableoperations.h"
 
 #include <QTextCursor>
@@ -10,8 +11,6 @@
 namespace lctrlsex {
 
 namespace {
-
-constexpr int MostCells = 10000; // as many as a table is made with
 
 /** Reads one cell after another; a quote counts at the start of a cell only. */
 class CellReader
@@ -96,12 +95,12 @@ int widest(const QVector<QStringList> &cells)
 void grow(QTextTable *table, int rows, int columns, TableGrowth growth)
 {
     if (growth.columns && columns > table->columns()) {
-        const int most = std::max(table->columns(), MostCells / table->rows());
+        const int most = std::max(table->columns(), MostTableCells / table->rows());
         insertLines(table, Axis::Columns, table->columns(),
                     std::min(columns, most) - table->columns());
     }
     if (growth.rows && rows > table->rows()) {
-        const int most = std::max(table->rows(), MostCells / table->columns());
+        const int most = std::max(table->rows(), MostTableCells / table->columns());
         insertLines(table, Axis::Rows, table->rows(), std::min(rows, most) - table->rows());
     }
 }

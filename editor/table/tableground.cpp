@@ -25,14 +25,6 @@ bool isReached(const QTextTable &table, const QTextDocument &document, const QRe
     return last >= table.firstPosition();
 }
 
-/** What the layout makes of one pixel of a table's lengths: a view's device may differ. */
-qreal lengthScale(const QTextDocument &document)
-{
-    const QPaintDevice *device = document.documentLayout()->paintDevice();
-    const QImage usual(1, 1, QImage::Format_RGB32);
-    return device == nullptr ? 1 : qreal(device->logicalDpiY()) / usual.logicalDpiY();
-}
-
 /** Where the contents of the first row begin; a cell that is aligned otherwise begins lower. */
 qreal firstLine(const QTextTable &table, const QAbstractTextDocumentLayout &layout)
 {
@@ -62,6 +54,13 @@ QRectF groundOf(QTextTable *table, const QTextDocument &document)
 }
 
 } // namespace
+
+double lengthScale(const QTextDocument &document)
+{
+    const QPaintDevice *device = document.documentLayout()->paintDevice();
+    const QImage usual(1, 1, QImage::Format_RGB32);
+    return device == nullptr ? 1 : qreal(device->logicalDpiY()) / usual.logicalDpiY();
+}
 
 void drawTableGrounds(QPainter *painter, const QTextDocument &document, const QRectF &shown)
 {

@@ -232,7 +232,7 @@ void TableProperties::ShowPreview()
     form.SBFillArea->setValue(itemHeight > 0 ? qRound(100.0 * form.SBHeight->value() / itemHeight)
                                              : 0);
     form.notice->setText(
-        TableProperty::tr("A table has at most 10,000 cells and is at most 16,384 pixels wide. "
+        TableProperty::tr("A table has at most 20,000 cells and is at most 16,384 pixels wide. "
                           "Make it smaller."));
     form.notice->setVisible(!isUsable);
     form.buttonBox->button(QDialogButtonBox::Ok)->setEnabled(isUsable);

@@ -76,6 +76,8 @@ private slots:
     void editsBelowThePageCostNothing();
     void editsAreFollowed_data();
     void editsAreFollowed();
+    void longTablesAreCut_data();
+    void longTablesAreCut();
     void viewsOwnLayoutIsLeftAlone();
     void impossibleSizesGiveNoPage_data();
     void impossibleSizesGiveNoPage();
@@ -279,6 +281,75 @@ void TestPageRenderer::editsAreFollowed()
         if (random.bounded(4) != 0) {
             QCOMPARE(living.topPage(&document, style), PageRenderer().topPage(&document, style));
         }
+    }
+}
+
+void TestPageRenderer::longTablesAreCut_data()
+{
+    QTest::addColumn<QString>("columns");
+    QTest::addColumn<QString>("before");
+    QTest::addColumn<bool>("isCut");
+    const QString heading = QStringLiteral("<h2>Departures</h2><p></p>");
+    QTest::newRow("pixels") << QStringLiteral("70") << QString() << true;
+    QTest::newRow("text before") << QStringLiteral("70") << heading << true;
+    QTest::newRow("percent") << QStringLiteral("33%") << heading << false;
+    QTest::newRow("no widths") << QString() << heading << false;
+}
+
+/** Only top rows are laid out for a page, and what is drawn is as if it had been all of them. */
+void TestPageRenderer::longTablesAreCut()
+{
+    QFETCH(QString, columns);
+    QFETCH(QString, before);
+    QFETCH(bool, isCut);
+    const QString cell = QStringLiteral("<td bgcolor='#102030' valign='bottom' width='%1'>"
+                                        "<p align='right'>a <b>%2</b></p><p>x</p></td>");
+    QString rows;
+    for (int row = 0; row < 150; ++row) {
+        rows += QLatin1String("<tr>");
+        for (int column = 0; column < 3; ++column) {
+            rows += cell.arg(columns).arg(row * 3 + column);
+        }
+        rows += QLatin1String("</tr>");
+    }
+    ItemDocument document;
+    loadForEditing(&document, before + QStringLiteral("<table border='1' width='250'>") + rows +
+                                  QStringLiteral("</table><p>behind</p>"));
+    document.setTextWidth(300);
+    document.size();
+    auto *table = qobject_cast<QTextTable *>(document.rootFrame()->childFrames().constFirst());
+    PageStyle style;
+    style.size = QSize(300, 120);
+    PageRenderer renderer;
+    QRandomGenerator random(3);
+    TopBlocks top;
+    QCOMPARE(top.documentFor(&document, style.size)->blockCount() < 200, isCut);
+    for (int step = 0; step < 25; ++step) {
+        const int row = random.bounded(random.bounded(3) == 0 ? 140 : 8);
+        QTextCursor cursor = table->cellAt(row, random.bounded(3)).lastCursorPosition();
+        switch (random.bounded(6)) {
+        case 0:
+            table->mergeCells(row, 0, 1 + random.bounded(9), 1 + random.bounded(2));
+            break;
+        case 1:
+            cursor.insertText(QStringLiteral("Unbreakably"));
+            break;
+        case 2:
+            document.undo();
+            break;
+        case 3:
+            cursor.insertBlock();
+            break;
+        case 4: {
+            QTextTableFormat format = table->format();
+            format.setCellPadding(random.bounded(6));
+            table->setFormat(format);
+            break;
+        }
+        default:
+            cursor.deletePreviousChar();
+        }
+        QCOMPARE(renderer.topPage(&document, style), drawnFromClone(document, style));
     }
 }
 
