@@ -42,6 +42,23 @@ void typeInto(QTextEdit *view)
     press(view, Qt::Key_X, QStringLiteral("x"));
 }
 
+QString tableOf(int rows, int columns)
+{
+    const QString cell = QStringLiteral("<td width=\"%1\"><p><span style=\"font-family:'DejaVu "
+                                        "Sans'; font-size:14pt; color:#ffb000\">")
+                             .arg(600 / columns);
+    QString html = QStringLiteral("<html><body><table border=\"1\" width=\"600\">");
+    for (int row = 0; row < rows; ++row) {
+        html += QLatin1String("<tr>");
+        for (int column = 0; column < columns; ++column) {
+            html +=
+                cell + QString::number(row * columns + column) + QLatin1String("</span></p></td>");
+        }
+        html += QLatin1String("</tr>");
+    }
+    return html + QStringLiteral("</table></body></html>");
+}
+
 enum Place { Start, BelowPage, End };
 
 void placeCursor(QTextEdit *view, Place place)
@@ -64,6 +81,22 @@ void key(benchmark::State &state)
     const auto place = Place(state.range(1));
     placeCursor(item.view, place);
     placeCursor(&item.bare, place);
+    const Floor bare{"bare", [&item] {
+                         typeInto(&item.bare);
+                     }};
+    floors::besideFloors(state, [&item] { typeInto(item.view); }, {bare});
+}
+
+/** The same in a cell of a table, all of which the text engine lays out again at every key. */
+void keyInTable(benchmark::State &state)
+{
+    OpenItem item({600, 400}, tableOf(int(state.range(0)), int(state.range(1))));
+    for (QTextEdit *view : {static_cast<QTextEdit *>(item.view), &item.bare}) {
+        QTextCursor cursor(view->document());
+        cursor.movePosition(QTextCursor::NextBlock, QTextCursor::MoveAnchor, 12);
+        view->setTextCursor(cursor);
+        QCoreApplication::processEvents();
+    }
     const Floor bare{"bare", [&item] {
                          typeInto(&item.bare);
                      }};
@@ -201,6 +234,13 @@ BENCHMARK(key)
     ->Apply(sizesAndPlaces)
     ->UseManualTime()
     ->Unit(benchmark::kMicrosecond);
+BENCHMARK(keyInTable)
+    ->ArgNames({"rows", "columns"})
+    ->Args({100, 10})
+    ->Args({1000, 10})
+    ->Args({1000, 20})
+    ->UseManualTime()
+    ->Unit(benchmark::kMillisecond);
 BENCHMARK(push)
     ->ArgNames({"characters", "place"})
     ->Apply(sizesAndPlaces)
