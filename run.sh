@@ -10,7 +10,7 @@ root=$(CDPATH= cd -- "$(dirname -- "$0")" && pwd)
 build="$root/build/release"
 
 "$root/cmake/install-dependencies.sh" g++ cmake ninja-build ccache pkg-config qtbase5-dev qttools5-dev-tools qttranslations5-l10n \
-    libfontconfig1-dev fonts-dejavu-core fonts-liberation2 fonts-wqy-zenhei
+    libfontconfig1-dev libcsv-dev libqt5sql5-sqlite libqt5sql5-psql fonts-dejavu-core fonts-liberation2 fonts-wqy-zenhei
 
 log="$build.log"
 mkdir -p "$build"

@@ -8,8 +8,8 @@ root=$(CDPATH= cd -- "$(dirname -- "$0")" && pwd)
 cd "$root"
 
 cmake/install-dependencies.sh g++ cmake ninja-build ccache pkg-config git qtbase5-dev qttools5-dev-tools qttranslations5-l10n \
-    libfontconfig1-dev fonts-dejavu-core fonts-liberation2 fonts-wqy-zenhei libbenchmark-dev \
-    clang-format clang-tidy strace xvfb openbox xdotool imagemagick
+    libfontconfig1-dev libcsv-dev libqt5sql5-sqlite libqt5sql5-psql fonts-dejavu-core fonts-liberation2 fonts-wqy-zenhei libbenchmark-dev \
+    clang-format clang-tidy strace postgresql xvfb openbox xdotool imagemagick
 
 step() { printf '\n== %s\n' "$1"; }
 

@@ -35,7 +35,7 @@ set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS ON)
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_NAME lctrlsex)
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_DEPENDS fonts-dejavu-core)
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_RECOMMENDS
-  "fonts-wqy-zenhei, fonts-liberation2, qttranslations5-l10n")
+  "fonts-wqy-zenhei, fonts-liberation2, qttranslations5-l10n, libqt5sql5-sqlite, libqt5sql5-psql")
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_NAME lctrlsex-dev)
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SECTION libdevel)
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_DEPENDS

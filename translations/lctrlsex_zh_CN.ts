@@ -1209,6 +1209,185 @@
     </message>
 </context>
 <context>
+    <name>Sources</name>
+    <message>
+        <source>Column</source>
+        <translation>列</translation>
+    </message>
+    <message>
+        <source>out of memory</source>
+        <translation>内存不足</translation>
+    </message>
+    <message>
+        <source>stopped</source>
+        <translation>已停止</translation>
+    </message>
+    <message>
+        <source>there are more than %1 columns</source>
+        <translation>超过 %1 列</translation>
+    </message>
+    <message>
+        <source>the table is too large</source>
+        <translation>表格过大</translation>
+    </message>
+    <message>
+        <source>the text ends within quotes</source>
+        <translation>文本在引号内结束</translation>
+    </message>
+    <message>
+        <source>there is no header line</source>
+        <translation>没有标题行</translation>
+    </message>
+    <message>
+        <source>there is no kind of source with the number %1</source>
+        <translation>没有编号为 %1 的数据源类型</translation>
+    </message>
+    <message>
+        <source>the file cannot be read: %1</source>
+        <translation>无法读取文件：%1</translation>
+    </message>
+    <message>
+        <source>this is no file</source>
+        <translation>这不是文件</translation>
+    </message>
+    <message>
+        <source>the file never rests</source>
+        <translation>文件一直在变化</translation>
+    </message>
+    <message>
+        <source>the file is empty</source>
+        <translation>文件为空</translation>
+    </message>
+    <message>
+        <source>it is larger than %1 bytes</source>
+        <translation>大于 %1 字节</translation>
+    </message>
+    <message>
+        <source>something follows behind the end</source>
+        <translation>结尾之后还有内容</translation>
+    </message>
+    <message>
+        <source>line %1, column %2: %3</source>
+        <translation>第 %1 行，第 %2 列：%3</translation>
+    </message>
+    <message>
+        <source>the text ends too early</source>
+        <translation>文本过早结束</translation>
+    </message>
+    <message>
+        <source>this is no JSON</source>
+        <translation>这不是 JSON</translation>
+    </message>
+    <message>
+        <source>it is nested too deeply</source>
+        <translation>嵌套过深</translation>
+    </message>
+    <message>
+        <source>the number is too large</source>
+        <translation>数字过大</translation>
+    </message>
+    <message>
+        <source>a text holds a control character</source>
+        <translation>文本中含有控制字符</translation>
+    </message>
+    <message>
+        <source>the text is not UTF-8</source>
+        <translation>文本不是 UTF-8</translation>
+    </message>
+    <message>
+        <source>a secret must not stand in the file; put it into an environment variable and write ${env:NAME} here</source>
+        <translation>密码等机密不得写在文件中；请放入环境变量，并在此写 ${env:NAME}</translation>
+    </message>
+    <message>
+        <source>the environment variable %1 is not set</source>
+        <translation>环境变量 %1 未设置</translation>
+    </message>
+    <message>
+        <source>mend the value named</source>
+        <translation>请更正所指的值</translation>
+    </message>
+    <message>
+        <source>check the file that &quot;sources&quot; names</source>
+        <translation>请检查 &quot;sources&quot; 所指的文件</translation>
+    </message>
+    <message>
+        <source>there is another source of that name</source>
+        <translation>已有同名的数据源</translation>
+    </message>
+    <message>
+        <source>it must be a list, or the name of a file</source>
+        <translation>必须是列表或文件名</translation>
+    </message>
+    <message>
+        <source>it must be an object</source>
+        <translation>必须是对象</translation>
+    </message>
+    <message>
+        <source>not well-formed JSON: %1</source>
+        <translation>不是格式正确的 JSON：%1</translation>
+    </message>
+    <message>
+        <source>what stands there could not be read; mend it first, so that it is not lost</source>
+        <translation>那里的内容无法读取；请先更正，以免丢失</translation>
+    </message>
+    <message>
+        <source>CSV or text file</source>
+        <translation>CSV 或文本文件</translation>
+    </message>
+    <message>
+        <source>JSON file</source>
+        <translation>JSON 文件</translation>
+    </message>
+    <message>
+        <source>System</source>
+        <translation>系统</translation>
+    </message>
+    <message>
+        <source>it must be a text in quotes</source>
+        <translation>必须是带引号的文本</translation>
+    </message>
+    <message>
+        <source>it must be true or false</source>
+        <translation>必须是 true 或 false</translation>
+    </message>
+    <message>
+        <source>it must be a number from %1 to %2</source>
+        <translation>必须是 %1 到 %2 之间的数</translation>
+    </message>
+    <message>
+        <source>it must be an http or https address</source>
+        <translation>必须是 http 或 https 地址</translation>
+    </message>
+    <message>
+        <source>it is missing</source>
+        <translation>缺少此项</translation>
+    </message>
+    <message>
+        <source>a name must not hold any of %1</source>
+        <translation>名称不得含有下列字符：%1</translation>
+    </message>
+    <message>
+        <source>it must be &quot;csv&quot;, &quot;text&quot; or &quot;json&quot;</source>
+        <translation>必须是 &quot;csv&quot;、&quot;text&quot; 或 &quot;json&quot;</translation>
+    </message>
+    <message>
+        <source>it must be one character such as &quot;,&quot;</source>
+        <translation>必须是一个字符，例如 &quot;,&quot;</translation>
+    </message>
+    <message>
+        <source>there is no such encoding</source>
+        <translation>没有这种编码</translation>
+    </message>
+    <message>
+        <source>there is no encoding %1</source>
+        <translation>没有编码 %1</translation>
+    </message>
+    <message>
+        <source>the text is too long for an encoding other than UTF-8</source>
+        <translation>文本过长，只能使用 UTF-8 编码</translation>
+    </message>
+</context>
+<context>
     <name>TableMenu</name>
     <message>
         <source>Insert Row Above</source>
