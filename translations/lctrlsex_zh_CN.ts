@@ -1386,6 +1386,98 @@
         <source>the text is too long for an encoding other than UTF-8</source>
         <translation>文本过长，只能使用 UTF-8 编码</translation>
     </message>
+    <message>
+        <source>no answer within %1 seconds</source>
+        <translation>%1 秒内没有应答</translation>
+    </message>
+    <message>
+        <source>the answer is larger than %1 bytes</source>
+        <translation>应答大于 %1 字节</translation>
+    </message>
+    <message>
+        <source>the address leads to a scheme other than http and https</source>
+        <translation>地址指向 http 和 https 以外的协议</translation>
+    </message>
+    <message>
+        <source>a redirection from https to http is not followed</source>
+        <translation>不跟随从 https 到 http 的重定向</translation>
+    </message>
+    <message>
+        <source>more than %1 redirections</source>
+        <translation>重定向超过 %1 次</translation>
+    </message>
+    <message>
+        <source>the connection failed: %1</source>
+        <translation>连接失败：%1</translation>
+    </message>
+    <message>
+        <source>the answer is cut off</source>
+        <translation>应答被截断</translation>
+    </message>
+    <message>
+        <source>the server answered %1 %2</source>
+        <translation>服务器应答 %1 %2</translation>
+    </message>
+    <message>
+        <source>the answer is cut off: %1 of %2 bytes came</source>
+        <translation>应答被截断：%2 字节中只收到 %1 字节</translation>
+    </message>
+    <message>
+        <source>the answer is empty</source>
+        <translation>应答为空</translation>
+    </message>
+    <message>
+        <source>the content type %1 is neither JSON nor CSV; set &quot;format&quot;</source>
+        <translation>内容类型 %1 既不是 JSON 也不是 CSV；请设置 &quot;format&quot;</translation>
+    </message>
+    <message>
+        <source>the recording cannot be read: %1</source>
+        <translation>无法读取记录：%1</translation>
+    </message>
+    <message>
+        <source>the recording is empty</source>
+        <translation>记录为空</translation>
+    </message>
+    <message>
+        <source>line %1 of the recording is damaged</source>
+        <translation>记录的第 %1 行已损坏</translation>
+    </message>
+    <message>
+        <source>HTTP or HTTPS</source>
+        <translation>HTTP 或 HTTPS</translation>
+    </message>
+    <message>
+        <source>SQL database</source>
+        <translation>SQL 数据库</translation>
+    </message>
+    <message>
+        <source>the driver %1 is missing</source>
+        <translation>缺少驱动 %1</translation>
+    </message>
+    <message>
+        <source>the driver %1 is missing; install the Debian package %2</source>
+        <translation>缺少驱动 %1；请安装 Debian 软件包 %2</translation>
+    </message>
+    <message>
+        <source>the database cannot be opened: %1</source>
+        <translation>无法打开数据库：%1</translation>
+    </message>
+    <message>
+        <source>the query %1 failed: %2</source>
+        <translation>查询 %1 失败：%2</translation>
+    </message>
+    <message>
+        <source>the query %1 has no columns</source>
+        <translation>查询 %1 没有列</translation>
+    </message>
+    <message>
+        <source>the query %1 took longer than %2 seconds</source>
+        <translation>查询 %1 超过 %2 秒</translation>
+    </message>
+    <message>
+        <source>the query %1 has more than %2 rows</source>
+        <translation>查询 %1 超过 %2 行</translation>
+    </message>
 </context>
 <context>
     <name>TableMenu</name>

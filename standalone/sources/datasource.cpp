@@ -36,7 +36,7 @@ void DataSource::start()
     m_mailbox = std::make_shared<Mailbox>();
     m_reader = reader.get();
     m_reader->moveToThread(thread);
-    m_worker = new SourceWorker(std::move(reader), m_context, m_mailbox);
+    m_worker = new SourceWorker(std::move(reader), m_settings, m_context, m_mailbox);
     m_worker->moveToThread(thread);
     connect(thread, &QThread::finished, m_worker, &QObject::deleteLater);
     connect(m_worker, &SourceWorker::posted, this, &DataSource::takePost, Qt::QueuedConnection);
@@ -61,6 +61,15 @@ void DataSource::refresh()
 {
     if (m_worker != nullptr) {
         QMetaObject::invokeMethod(m_worker, &SourceWorker::refresh, Qt::QueuedConnection);
+    }
+}
+
+void DataSource::recordTo(const QString &fileName)
+{
+    if (m_worker != nullptr) {
+        QMetaObject::invokeMethod(
+            m_worker, [worker = m_worker, fileName] { worker->recordTo(fileName); },
+            Qt::QueuedConnection);
     }
 }
 

@@ -33,6 +33,8 @@ public:
     void stop();
     /** Reads at once; the next attempts are planned from there. */
     void refresh();
+    /** Writes what comes from now on into a file, a line each; an empty name ends it. */
+    void recordTo(const QString &fileName);
 
     [[nodiscard]] const SourceData &latest() const { return m_update.data; }
     /** What the data offers; values are shortened. */

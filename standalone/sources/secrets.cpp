@@ -63,7 +63,9 @@ void look(const QString &name, const QJsonValue &value, const JsonPath &path, bo
         for (auto it = object.constBegin(); it != object.constEnd(); ++it) {
             // The text of a query compares columns such as token = 5, which is no secret.
             look(it.key(), it.value(), path.key(it.key()),
-                 isProse || it.key() == QLatin1String("queries"), faults);
+                 isProse || it.key() == QLatin1String("query") ||
+                     it.key() == QLatin1String("queries"),
+                 faults);
         }
     } else if (value.isArray()) {
         const QJsonArray array = value.toArray();

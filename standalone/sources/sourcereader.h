@@ -48,6 +48,8 @@ public:
     virtual void read() = 0;
     /** Milliseconds from the end of an attempt that went well to the next one; -1: none. */
     [[nodiscard]] virtual int nextInterval() const;
+    /** Whether the last data is worth keeping for the next start. */
+    [[nodiscard]] virtual bool isKept() const { return true; }
     /** Whether attempts become rarer while they fail. */
     [[nodiscard]] virtual bool backsOff() const { return true; }
 

@@ -101,6 +101,7 @@ void forEachText(Settings *settings, Each each)
 {
     each(QStringLiteral("file"), &settings->file);
     each(QStringLiteral("url"), &settings->url);
+    each(QStringLiteral("query"), &settings->query);
     each(QStringLiteral("format"), &settings->format);
     each(QStringLiteral("delimiter"), &settings->delimiter);
     each(QStringLiteral("encoding"), &settings->encoding);
@@ -166,8 +167,9 @@ QVector<SettingsFault> kindFaults(const SourceSettings &settings, const JsonPath
     if (settings.type == DataSourceEntry::Sql && settings.connection.driver.isEmpty()) {
         faults.append({path.key(Connection).key(QStringLiteral("driver")), missing});
     }
-    if (settings.type == DataSourceEntry::Sql && settings.queries.isEmpty()) {
-        faults.append({path.key(Queries), missing});
+    if (settings.type == DataSourceEntry::Sql && settings.query.isEmpty() &&
+        settings.queries.isEmpty()) {
+        faults.append({path.key(QStringLiteral("query")), missing});
     }
     return faults;
 }

@@ -39,6 +39,7 @@ struct SourceSettings
     QString url;  ///< Type 3; http or https.
     QVector<NamedText> headers;
     SqlConnection connection; ///< Type 4.
+    QString query; ///< Its table is the member "rows"; those of queries have their names.
     QVector<NamedText> queries;
 
     QString format;      ///< csv, text or json; empty: found out.

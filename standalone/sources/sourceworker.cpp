@@ -22,14 +22,14 @@ std::optional<SourceUpdate> Mailbox::take()
     return update;
 }
 
-SourceWorker::SourceWorker(std::unique_ptr<SourceReader> reader, const SourceContext &context,
-                           std::shared_ptr<Mailbox> mailbox)
+SourceWorker::SourceWorker(std::unique_ptr<SourceReader> reader, const SourceSettings &settings,
+                           const SourceContext &context, std::shared_ptr<Mailbox> mailbox)
     : m_reader(std::move(reader))
     , m_context(context)
     , m_mailbox(std::move(mailbox))
+    , m_cache(settings, context)
     , m_timer(this)
 {
-    m_reader->setParent(nullptr);
     m_timer.setSingleShot(true);
     m_timer.setTimerType(Qt::PreciseTimer);
     connect(&m_timer, &QTimer::timeout, this, &SourceWorker::read);
@@ -40,6 +40,14 @@ void SourceWorker::start()
     connect(m_reader.get(), &SourceReader::finished, this, &SourceWorker::finish);
     connect(m_reader.get(), &SourceReader::due, this, &SourceWorker::refresh);
     m_update.health.state = SourceHealth::Starting;
+    if (m_reader->isKept()) {
+        m_update.data = m_cache.load();
+    }
+    if (!m_update.data.value.isMissing()) {
+        m_update.keys = offeredKeys(m_update.data.value);
+        m_update.health.rows = rowsOf(m_update.data.value);
+        ++m_update.dataVersion;
+    }
     post();
     m_reader->open();
     read();
@@ -56,8 +64,20 @@ void SourceWorker::refresh()
 void SourceWorker::shutDown()
 {
     m_timer.stop();
+    m_cache.flush();
     m_reader.reset();
     thread()->quit();
+}
+
+void SourceWorker::recordTo(const QString &fileName)
+{
+    m_recording = fileName.isEmpty() ? nullptr : std::make_unique<Recording>(fileName);
+    if (m_recording != nullptr && !m_update.data.value.isMissing()) {
+        Reading reading;
+        reading.outcome = Reading::Arrived;
+        reading.value = m_update.data.value;
+        m_recording->add(reading);
+    }
 }
 
 void SourceWorker::read()
@@ -73,6 +93,9 @@ void SourceWorker::finish(const Reading &reading)
     m_isReading = false;
     if (m_reader->stopFlag()) {
         return;
+    }
+    if (m_recording != nullptr) {
+        m_recording->add(reading);
     }
     if (reading.outcome == Reading::Failed) {
         refuse(reading);
@@ -105,12 +128,15 @@ void SourceWorker::accept(const Reading &reading)
     }
     if (isNew || data.isStale) {
         ++m_update.dataVersion;
+        data.takenAt = health.goodAt;
     }
     data.isStale = false;
     if (isNew) {
         data.value = reading.value;
-        data.takenAt = health.goodAt;
         m_update.keys = offeredKeys(data.value);
+        if (m_reader->isKept()) {
+            m_cache.store(data, reading.bytes);
+        }
     }
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "datacache.h"
+#include "recording.h"
 #include "sourcehealth.h"
 #include "sourcereader.h"
 
@@ -35,13 +37,15 @@ class SourceWorker : public QObject
     Q_OBJECT
 
 public:
-    SourceWorker(std::unique_ptr<SourceReader> reader, const SourceContext &context,
-                 std::shared_ptr<Mailbox> mailbox);
+    SourceWorker(std::unique_ptr<SourceReader> reader, const SourceSettings &settings,
+                 const SourceContext &context, std::shared_ptr<Mailbox> mailbox);
 
     /** In the thread of the source, as everything below. */
     void start();
     /** Reads soon, whenever the next attempt was planned. */
     void refresh();
+    /** Records what comes from now on; an empty name ends it. */
+    void recordTo(const QString &fileName);
     /** Stops for good and ends the thread. */
     void shutDown();
 
@@ -62,6 +66,8 @@ private:
     const SourceContext m_context;
     const std::shared_ptr<Mailbox> m_mailbox;
     SourceUpdate m_update;
+    DataCache m_cache;
+    std::unique_ptr<Recording> m_recording;
     QTimer m_timer;
     QElapsedTimer m_latency;
     bool m_isReading = false;

@@ -14,6 +14,7 @@ public:
 
     void read() override;
     [[nodiscard]] int nextInterval() const override;
+    [[nodiscard]] bool isKept() const override { return false; }
 
 private:
     qint64 m_ticks = 0;

@@ -1,0 +1,3 @@
+#include "sourcelogging.h"
+
+Q_LOGGING_CATEGORY(lcSources, "lctrlsex.sources", QtInfoMsg)

@@ -1,0 +1,34 @@
+#pragma once
+
+#include "sourcereader.h"
+
+#include <QSqlDatabase>
+
+namespace sources {
+
+/**
+ * Tables of a database: one for each query. The connection is this source's own and stays open as
+ * long as it works. An SQLite file is opened for reading only.
+ */
+class SqlReader : public SourceReader
+{
+    Q_OBJECT
+
+public:
+    SqlReader(const SourceSettings &settings, const SourceContext &context);
+    ~SqlReader() override;
+
+    void read() override;
+
+private:
+    [[nodiscard]] QString connectDatabase();
+    [[nodiscard]] QString prepare(QSqlDatabase *database) const;
+    void disconnectDatabase();
+    [[nodiscard]] Reading runAll();
+    [[nodiscard]] DataValue run(const NamedText &query, qint64 *bytes, QString *error) const;
+    [[nodiscard]] int timeout() const;
+
+    const QString m_connection; ///< The name that QtSql knows it by.
+};
+
+} // namespace sources
