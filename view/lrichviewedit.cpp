@@ -2,6 +2,7 @@
 
 #include "behindtable.h"
 #include "documentsetup.h"
+#include "fielddrag.h"
 #include "fragmentmerge.h"
 #include "imageinsertion.h"
 #include "imageresize.h"
@@ -24,6 +25,7 @@
 namespace {
 
 constexpr int ChequerSide = 8;
+constexpr int LongestKey = 4096;
 
 /** Keys of the tool bar that a text view of the platform would take for cursor movements. */
 bool isToolBarShortcut(const QKeyEvent &event)
@@ -271,7 +273,8 @@ void LRichViewEdit::contextMenuEvent(QContextMenuEvent *event)
 
 bool LRichViewEdit::canInsertFromMimeData(const QMimeData *source) const
 {
-    return source->hasText() || lctrlsex::offersPictures(*source);
+    return source->hasText() || source->hasFormat(FieldDrag::FieldFormat) ||
+           lctrlsex::offersPictures(*source);
 }
 
 void LRichViewEdit::insertFromMimeData(const QMimeData *source)
@@ -279,7 +282,10 @@ void LRichViewEdit::insertFromMimeData(const QMimeData *source)
     if (isReadOnly()) {
         return;
     }
-    if (lctrlsex::offersPictures(*source)) {
+    if (source->hasFormat(FieldDrag::FieldFormat)) {
+        emit InsertFieldNameSignal(
+            QString::fromUtf8(source->data(FieldDrag::FieldFormat)).left(LongestKey));
+    } else if (lctrlsex::offersPictures(*source)) {
         insertPictures(lctrlsex::picturesOf(*source, roomForPictures()));
     } else if (source->hasText()) {
         emit InsertCopyText(source->text());

@@ -118,6 +118,16 @@ void draw(QPainter *painter, Drawing drawing, const QColor &color)
         painter->drawLine(QPointF(6.9, 7), QPointF(7.1, 11));
         painter->drawLine(QPointF(9.1, 7), QPointF(8.9, 11));
         break;
+    case Drawing::Edit:
+        painter->setPen(penOf(color, 1.3));
+        painter->drawPolygon(
+            QPolygonF({{3, 13}, {3.6, 10.4}, {10.8, 3.2}, {12.8, 5.2}, {5.6, 12.4}}));
+        break;
+    case Drawing::Refresh:
+        painter->setPen(penOf(color, 1.4));
+        painter->drawArc(QRectF(3, 3, 10, 10), 40 * 16, 290 * 16);
+        painter->drawPolyline(QPolygonF({{9.2, 5.6}, {12, 5}, {12, 2}}));
+        break;
     case Drawing::Duplicate:
         painter->setPen(penOf(color, 1.3));
         painter->drawRoundedRect(QRectF(5.5, 5.5, 8, 8), 1, 1);

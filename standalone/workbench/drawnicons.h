@@ -11,6 +11,8 @@ enum class Drawing {
     Add,
     Remove,
     Duplicate,
+    Edit,
+    Refresh,
     Up,
     Down,
     Previous,

@@ -1,19 +1,24 @@
 #include "editorpane.h"
 
+#include "fielddrag.h"
 #include "inodeclient.h"
 #include "itempages.h"
 #include "ltexteffectnode.h"
 #include "programmedocument.h"
 
 #include <QApplication>
-#include <QEvent>
+#include <QDropEvent>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QMimeData>
 #include <QPushButton>
 #include <QScrollArea>
 #include <QStackedLayout>
 #include <QTextEdit>
+#include <QTextTable>
 #include <QVBoxLayout>
+
+#include <algorithm>
 
 namespace workbench {
 
@@ -120,10 +125,12 @@ void EditorPane::bind(LTextEffectNode *node)
         if (view != m_filtered) {
             if (m_filtered) {
                 m_filtered->removeEventFilter(this);
+                m_filtered->viewport()->removeEventFilter(this);
             }
             m_filtered = view;
             if (view != nullptr) {
                 view->installEventFilter(this);
+                view->viewport()->installEventFilter(this);
             }
         }
         if (view != nullptr && m_node) {
@@ -261,8 +268,65 @@ void EditorPane::insertImage()
     }
 }
 
+bool EditorPane::canInsertField() const
+{
+    const QTextEdit *const view = m_node ? textView() : nullptr;
+    return view != nullptr && !view->isReadOnly() &&
+           view->metaObject()->indexOfMethod("InsertFieldNameSignal(QString)") >= 0;
+}
+
+void EditorPane::insertField(const QString &key)
+{
+    if (canInsertField() && !key.isEmpty()) {
+        QMetaObject::invokeMethod(textView(), "InsertFieldNameSignal", Q_ARG(QString, key));
+    }
+}
+
+bool EditorPane::hasTable() const
+{
+    const QTextEdit *const view = m_node ? textView() : nullptr;
+    const QList<QTextFrame *> frames =
+        view != nullptr ? view->document()->rootFrame()->childFrames() : QList<QTextFrame *>();
+    return std::any_of(frames.begin(), frames.end(), [](const QTextFrame *frame) {
+        return qobject_cast<const QTextTable *>(frame) != nullptr;
+    });
+}
+
+void EditorPane::bindTable(const QString &key)
+{
+    if (!hasTable()) {
+        emit bindRefused();
+        return;
+    }
+    auto *const client = dynamic_cast<QObject *>(m_plugin.client);
+    if (client != nullptr &&
+        QMetaObject::invokeMethod(client, "OnTableBindFieldChanged", Q_ARG(QString, key))) {
+        QMetaObject::invokeMethod(client, "ShowBoundField");
+    }
+}
+
+/** What a table can be bound to is no text: the view would take its key for one. */
+bool EditorPane::takeTableDrop(QEvent *event)
+{
+    const bool isDrag = event->type() == QEvent::DragEnter || event->type() == QEvent::DragMove ||
+                        event->type() == QEvent::Drop;
+    auto *const drop = isDrag ? static_cast<QDropEvent *>(event) : nullptr;
+    if (drop == nullptr || !drop->mimeData()->hasFormat(FieldDrag::TableFormat)) {
+        return false;
+    }
+    drop->setDropAction(Qt::CopyAction);
+    drop->accept();
+    if (event->type() == QEvent::Drop) {
+        bindTable(QString::fromUtf8(drop->mimeData()->data(FieldDrag::TableFormat)));
+    }
+    return true;
+}
+
 bool EditorPane::eventFilter(QObject *watched, QEvent *event)
 {
+    if (m_filtered && watched == m_filtered->viewport()) {
+        return takeTableDrop(event);
+    }
     if (event->type() == QEvent::ShortcutOverride || event->type() == QEvent::KeyPress) {
         const auto *key = static_cast<QKeyEvent *>(event);
         if (key->matches(QKeySequence::Undo) || key->matches(QKeySequence::Redo)) {

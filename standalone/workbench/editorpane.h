@@ -59,11 +59,22 @@ public:
     /** Lets the user choose one. */
     void insertImage();
 
+    /** Whether a data field can be put into the text now. */
+    [[nodiscard]] bool canInsertField() const;
+    /** Puts the field of a qualified key at the cursor. */
+    void insertField(const QString &key);
+    /** Whether the text has a table. */
+    [[nodiscard]] bool hasTable() const;
+    /** Binds the text's table to a qualified key, an empty one to nothing. */
+    void bindTable(const QString &key);
+
 signals:
     /** The user asked for an item where there is none. */
     void addItemWanted();
     /** The user wants to leave the editor. */
     void leaveWanted();
+    /** A table was to be bound where there is none. */
+    void bindRefused();
 
 protected:
     void changeEvent(QEvent *event) override;
@@ -77,6 +88,7 @@ private:
     void showAttributes();
     void giveBack();
     [[nodiscard]] QObject *converter() const;
+    bool takeTableDrop(QEvent *event);
     void retranslate();
 
     ProgrammeDocument *m_document;

@@ -6,6 +6,7 @@
 #include "lappconfig.h"
 #include "layoutpanel.h"
 #include "lcontrollernode.h"
+#include "livedata.h"
 #include "ltexteffectnode.h"
 #include "noticebar.h"
 #include "programmedocument.h"
@@ -31,6 +32,7 @@ namespace workbench {
 MainWindow::MainWindow(const LoadedPlugin &plugin, const FontFolder::Result &fonts, QWidget *parent)
     : QMainWindow(parent)
     , m_document(new ProgrammeDocument(this))
+    , m_live(new LiveData(m_document, this))
     , m_pages(new ItemPages(m_document, this))
     , m_autosave(new Autosave(m_document, this))
     , m_recent(new RecentFiles(this))
@@ -61,11 +63,12 @@ MainWindow::~MainWindow()
     // Children die in the order in which they were made, the document first; so it is done here:
     // first what the plug-in's widgets are in, then all that knows nodes, the document last.
     delete m_editor;
-    for (QDockWidget *dock : {m_programmeDock, m_propertiesDock, m_layoutDock, m_wallDock}) {
+    const QVector<QDockWidget *> all = docks();
+    for (QDockWidget *dock : all) {
         delete dock;
     }
-    for (QObject *part :
-         QVector<QObject *>{m_thumbnails, m_structure, m_model, m_autosave, m_pages, m_document}) {
+    for (QObject *part : QVector<QObject *>{m_thumbnails, m_structure, m_model, m_autosave, m_pages,
+                                            m_live, m_document}) {
         delete part;
     }
 }

@@ -23,9 +23,11 @@ class QMenu;
 namespace workbench {
 
 class Autosave;
+class DataPanel;
 class EditorPane;
 class ItemPages;
 class LayoutPanel;
+class LiveData;
 class NoticeArea;
 class ProgrammeDocument;
 class ProgrammePanel;
@@ -130,6 +132,8 @@ private:
 
     // Docks
     void buildDocks();
+    void connectData();
+    [[nodiscard]] QVector<QDockWidget *> docks() const;
     QDockWidget *addDock(const QString &name, QWidget *content, Qt::DockWidgetArea area);
     void applyDefaultLayout();
     void restoreLayout();
@@ -146,6 +150,7 @@ private:
 
     WorkbenchSettings m_settings;
     ProgrammeDocument *m_document;
+    LiveData *m_live;
     ItemPages *m_pages;
     Autosave *m_autosave;
     RecentFiles *m_recent;
@@ -158,10 +163,12 @@ private:
     EditorPane *m_editor;
     ProgrammePanel *m_programme;
     LayoutPanel *m_layout;
+    DataPanel *m_data;
     WallPanel *m_wall;
     QDockWidget *m_programmeDock = nullptr;
     QDockWidget *m_propertiesDock = nullptr;
     QDockWidget *m_layoutDock = nullptr;
+    QDockWidget *m_dataDock = nullptr;
     QDockWidget *m_wallDock = nullptr;
 
     struct TextOfAction

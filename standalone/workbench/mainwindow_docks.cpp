@@ -1,7 +1,9 @@
+#include "datapanel.h"
 #include "editorpane.h"
 #include "layoutpanel.h"
 #include "ltexteffectnode.h"
 #include "mainwindow.h"
+#include "noticebar.h"
 #include "programmepanel.h"
 #include "wallpanel.h"
 
@@ -18,7 +20,7 @@ namespace workbench {
 namespace {
 
 /** Changed whenever docks come or go, so that an older state is not applied to them. */
-constexpr int LayoutVersion = 1;
+constexpr int LayoutVersion = 2;
 
 constexpr int ProgrammeWidth = 250;
 constexpr int PropertiesWidth = 285;
@@ -41,12 +43,14 @@ void MainWindow::buildDocks()
     layoutArea->setWidgetResizable(true);
     layoutArea->setFrameShape(QFrame::NoFrame);
     layoutArea->setWidget(m_layout);
+    m_data = new DataPanel(m_live, this);
     m_wall = new WallPanel(m_pages, this);
 
     m_programmeDock = addDock(QStringLiteral("ProgrammeDock"), m_programme, Qt::LeftDockWidgetArea);
     m_propertiesDock = addDock(QStringLiteral("PropertiesDock"), m_editor->attributesArea(),
                                Qt::RightDockWidgetArea);
     m_layoutDock = addDock(QStringLiteral("LayoutDock"), layoutArea, Qt::RightDockWidgetArea);
+    m_dataDock = addDock(QStringLiteral("DataDock"), m_data, Qt::RightDockWidgetArea);
     m_wallDock = addDock(QStringLiteral("WallDock"), m_wall, Qt::BottomDockWidgetArea);
 
     connect(m_programme, &ProgrammePanel::currentNodeChanged, this, &MainWindow::onNodeSelected);
@@ -63,6 +67,27 @@ void MainWindow::buildDocks()
             m_ledGrid->setChecked(shows);
         }
     });
+    connectData();
+}
+
+void MainWindow::connectData()
+{
+    connect(m_data, &DataPanel::insertWanted, m_editor, &EditorPane::insertField);
+    connect(m_data, &DataPanel::bindWanted, m_editor, &EditorPane::bindTable);
+    connect(m_editor, &EditorPane::bindRefused, this, [this] {
+        m_notices->post({QStringLiteral("bind"),
+                         Notice::Information,
+                         [] {
+                             return tr("There is no table in this text yet: insert one with the "
+                                       "table button, then bind it.");
+                         },
+                         {}});
+    });
+}
+
+QVector<QDockWidget *> MainWindow::docks() const
+{
+    return {m_programmeDock, m_propertiesDock, m_layoutDock, m_dataDock, m_wallDock};
 }
 
 QDockWidget *MainWindow::addDock(const QString &name, QWidget *content, Qt::DockWidgetArea area)
@@ -76,21 +101,25 @@ QDockWidget *MainWindow::addDock(const QString &name, QWidget *content, Qt::Dock
 
 void MainWindow::applyDefaultLayout()
 {
-    for (QDockWidget *dock : {m_programmeDock, m_propertiesDock, m_layoutDock, m_wallDock}) {
+    const QVector<QDockWidget *> all = docks();
+    for (QDockWidget *dock : all) {
         dock->setFloating(false);
         dock->show();
     }
     addDockWidget(Qt::LeftDockWidgetArea, m_programmeDock);
     addDockWidget(Qt::RightDockWidgetArea, m_layoutDock);
     addDockWidget(Qt::RightDockWidgetArea, m_propertiesDock);
+    addDockWidget(Qt::RightDockWidgetArea, m_dataDock);
     addDockWidget(Qt::BottomDockWidgetArea, m_wallDock);
     if (height() >= HeightForBoth) {
         splitDockWidget(m_layoutDock, m_propertiesDock, Qt::Vertical);
+        tabifyDockWidget(m_propertiesDock, m_dataDock);
         resizeDocks({m_layoutDock, m_propertiesDock}, {height() / 4, height() / 2}, Qt::Vertical);
     } else {
         tabifyDockWidget(m_propertiesDock, m_layoutDock);
-        m_propertiesDock->raise();
+        tabifyDockWidget(m_layoutDock, m_dataDock);
     }
+    m_propertiesDock->raise();
     resizeDocks({m_programmeDock, m_propertiesDock}, {ProgrammeWidth, PropertiesWidth},
                 Qt::Horizontal);
     // On a large window a wall of a usual size is shown at twice its pixels.
@@ -141,7 +170,8 @@ static void nameButton(QWidget *parent, const char *button, const QString &name,
 void MainWindow::retranslateDocks()
 {
     // The toolkit names these buttons when it makes them or a dock changes, and then no more.
-    for (QDockWidget *dock : {m_programmeDock, m_propertiesDock, m_layoutDock, m_wallDock}) {
+    const QVector<QDockWidget *> all = docks();
+    for (QDockWidget *dock : all) {
         nameButton(dock, "qt_dockwidget_closebutton", QDockWidget::tr("Close"),
                    QDockWidget::tr("Closes the dock widget"));
         nameButton(dock, "qt_dockwidget_floatbutton", QDockWidget::tr("Float"),
@@ -155,6 +185,7 @@ void MainWindow::retranslateDocks()
     m_programmeDock->setWindowTitle(tr("Programme"));
     m_propertiesDock->setWindowTitle(tr("Item Properties"));
     m_layoutDock->setWindowTitle(tr("Layout"));
+    m_dataDock->setWindowTitle(tr("Data"));
     m_wallDock->setWindowTitle(tr("Wall"));
 }
 

@@ -1,6 +1,7 @@
 #include "autosave.h"
 #include "lappconfig.h"
 #include "lcontrollernode.h"
+#include "livedata.h"
 #include "mainwindow.h"
 #include "noticebar.h"
 #include "programmedocument.h"
@@ -106,7 +107,14 @@ bool MainWindow::saveAs()
 
 bool MainWindow::saveUnder(const QString &fileName)
 {
-    if (!noteOutcome(fileName, m_document->saveAs(fileName))) {
+    const QString before = m_document->folder();
+    const QString after = QFileInfo(fileName).absolutePath();
+    m_live->rebase(before, after);
+    const ProgrammeError error = m_document->saveAs(fileName);
+    if (error.isSet()) {
+        m_live->rebase(after, before);
+    }
+    if (!noteOutcome(fileName, error)) {
         return false;
     }
     statusBar()->showMessage(tr("Saved %1").arg(QDir::toNativeSeparators(fileName)), StatusTime);

@@ -1,3 +1,4 @@
+#include "datapanel.h"
 #include "editorpane.h"
 #include "ltexteffectnode.h"
 #include "mainwindow.h"
@@ -46,6 +47,7 @@ void MainWindow::updateTextActions()
         action->setEnabled(isPossible);
     }
     m_insertImage->setEnabled(m_editor->canInsertImage());
+    m_data->setTargets(m_editor->canInsertField(), m_editor->hasTable());
     const LTextEffectNode *item = m_editor->node();
     m_antialiasingOff->setChecked(item != nullptr && !item->GetTextAntialias());
 }

@@ -35,7 +35,8 @@ void MainWindow::buildViewMenu()
 {
     auto *menu = nameMenu(menuBar()->addMenu(QString()), QStringLiteral("ViewMenu"),
                           [] { return tr("&View"); });
-    for (QDockWidget *dock : {m_programmeDock, m_propertiesDock, m_layoutDock, m_wallDock}) {
+    for (QDockWidget *dock :
+         {m_programmeDock, m_propertiesDock, m_layoutDock, m_dataDock, m_wallDock}) {
         dock->toggleViewAction()->setObjectName(QStringLiteral("Show") + dock->objectName());
         menu->addAction(dock->toggleViewAction());
     }

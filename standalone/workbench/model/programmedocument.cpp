@@ -5,6 +5,7 @@
 #include "nodebuilder.h"
 #include "treewatch.h"
 
+#include <QDir>
 #include <QFileInfo>
 #include <QUndoStack>
 
@@ -63,6 +64,14 @@ QString ProgrammeDocument::fileName() const
     return m_fileName;
 }
 
+QString ProgrammeDocument::folder() const
+{
+    if (!m_fileName.isEmpty()) {
+        return QFileInfo(m_fileName).absolutePath();
+    }
+    return m_origin.isEmpty() ? QDir::homePath() : m_origin;
+}
+
 QString ProgrammeDocument::displayName() const
 {
     if (m_fileName.isEmpty()) {
@@ -115,7 +124,7 @@ ProgrammeError ProgrammeDocument::openCopy(const QString &fileName)
 {
     ReadProgramme read = loadFile(fileName);
     if (read.controller) {
-        install(std::move(read.controller), QString());
+        install(std::move(read.controller), QString(), QFileInfo(fileName).absolutePath());
     }
     return read.error;
 }
@@ -132,7 +141,7 @@ ProgrammeError ProgrammeDocument::restore(const QByteArray &programme, const QSt
 }
 
 void ProgrammeDocument::install(std::unique_ptr<LControllerNode> controller,
-                                const QString &fileName)
+                                const QString &fileName, const QString &origin)
 {
     emit aboutToReplace();
     m_recorder->reset();
@@ -141,6 +150,7 @@ void ProgrammeDocument::install(std::unique_ptr<LControllerNode> controller,
     m_controller = std::move(controller);
     m_tree->setRoot(m_controller.get());
     m_fileName = fileName;
+    m_origin = origin;
     emit replaced();
     emit fileNameChanged();
 }

@@ -2,6 +2,7 @@
 
 #include "programmefile.h"
 
+#include <QJsonObject>
 #include <QObject>
 #include <QPointer>
 #include <QRect>
@@ -96,6 +97,15 @@ public:
     /** An invalid value removes the attribute. False when nothing would change. */
     bool setAttributes(LNode *node, const QVariantMap &values, const QString &stepName);
 
+    /** Folder that file names of the programme are relative to: its own, or where it came from. */
+    [[nodiscard]] QString folder() const;
+    /**
+     * Members of the file's root object that stand for no node. Replacing them is a step; false
+     * when they are the same as before.
+     */
+    [[nodiscard]] QJsonObject rootMembers() const;
+    bool setRootMembers(const QJsonObject &members, const QString &stepName);
+
     /**
      * @p view shows the text of @p node, which is loaded, from now on. Call it after the editor was
      * bound, again after each reloadItem(), and detachTextEditor() before the editor is bound to
@@ -119,6 +129,8 @@ signals:
     void saved();
     /** What would be saved has changed. */
     void contentsChanged();
+    /** rootMembers() are others, of the same programme. */
+    void rootMembersChanged();
     /** @p node left the tree, and is not merely moved; undo may bring it back. */
     void nodeTaken(LNode *node);
     /**
@@ -131,7 +143,8 @@ signals:
 
 private:
     [[nodiscard]] static ReadProgramme loadFile(const QString &fileName);
-    void install(std::unique_ptr<LControllerNode> controller, const QString &fileName);
+    void install(std::unique_ptr<LControllerNode> controller, const QString &fileName,
+                 const QString &origin = QString());
     /** Collects what changed; false inside an undo or redo, where nothing may be changed. */
     bool isReady();
     void announceTouched();
@@ -145,6 +158,7 @@ private:
     std::unique_ptr<ChangeRecorder> m_recorder;
     QVector<QPointer<LNode>> m_taken; ///< By the step that is being undone or redone.
     QString m_fileName;
+    QString m_origin; ///< Folder of the file that the programme was copied from.
 };
 
 } // namespace workbench

@@ -6,13 +6,67 @@
 #include "ltexteffectnode.h"
 #include "nodebuilder.h"
 #include "programmedocument.h"
+#include "programmekeys.h"
 #include "programmeschema.h"
 #include "structurestep.h"
 #include "treewatch.h"
 
+#include <QPointer>
 #include <QUndoStack>
 
+#include <functional>
+
 namespace workbench {
+
+namespace {
+
+/** Members of the root object are others. */
+class RootStep : public QUndoCommand
+{
+public:
+    RootStep(LControllerNode *controller, QJsonObject after, const QString &text,
+             std::function<void()> announce)
+        : QUndoCommand(text)
+        , m_controller(controller)
+        , m_before(controller->property(ProgrammeKeys::Unknown).toJsonObject())
+        , m_after(std::move(after))
+        , m_announce(std::move(announce))
+    {}
+
+    void undo() override { set(m_before); }
+    void redo() override { set(m_after); }
+
+private:
+    void set(const QJsonObject &members)
+    {
+        if (m_controller) {
+            m_controller->setProperty(ProgrammeKeys::Unknown, members);
+            m_announce();
+        }
+    }
+
+    const QPointer<LControllerNode> m_controller;
+    const QJsonObject m_before;
+    const QJsonObject m_after;
+    const std::function<void()> m_announce;
+};
+
+} // namespace
+
+QJsonObject ProgrammeDocument::rootMembers() const
+{
+    return m_controller->property(ProgrammeKeys::Unknown).toJsonObject();
+}
+
+bool ProgrammeDocument::setRootMembers(const QJsonObject &members, const QString &stepName)
+{
+    if (!isReady() || members == rootMembers()) {
+        return false;
+    }
+    m_history->push(
+        new RootStep(m_controller.get(), members, stepName, [this] { emit rootMembersChanged(); }));
+    return true;
+}
 
 static bool isSide(int pixels)
 {
