@@ -14,6 +14,16 @@ namespace {
 constexpr int MostMissing = 20;
 constexpr int MostSubstitutes = 8;
 
+/** Names that mean whatever font of the kind there is. */
+bool isGeneric(const QString &family)
+{
+    static const QSet<QString> names = {
+        QStringLiteral("sans"),      QStringLiteral("sans serif"), QStringLiteral("sans-serif"),
+        QStringLiteral("serif"),     QStringLiteral("mono"),       QStringLiteral("monospace"),
+        QStringLiteral("system-ui"), QStringLiteral("cursive"),    QStringLiteral("fantasy")};
+    return names.contains(family.toLower());
+}
+
 /** Calls @p visit with each run of text and its format. */
 template <typename Visitor>
 void forEachRun(const QTextDocument &document, Visitor visit)
@@ -58,7 +68,7 @@ QStringList missingFamilies(const QTextDocument &document, const QString &itemFa
         // A list of families names its own substitutes, so the first installed one is as meant.
         const auto end = families.begin() + qMin(families.size(), MostSubstitutes);
         const bool isThere = std::any_of(families.begin(), end, [&database](const QString &family) {
-            return database.hasFamily(family);
+            return isGeneric(family) || database.hasFamily(family);
         });
         if (!isThere) {
             missing.append(wanted);

@@ -8,6 +8,7 @@
 #include "workbenchstyle.h"
 
 #include <QApplication>
+#include <QFontInfo>
 #include <QIcon>
 #include <QLocale>
 #include <QScreen>
@@ -42,6 +43,8 @@ void dress(const QString &palette)
 {
     QApplication::setStyle(new workbench::WorkbenchStyle);
     QFont font = QApplication::font();
+    // A text that names no font stores the desktop's: a name that every machine understands.
+    font.setFamily(QFontInfo(font).family());
     font.setPixelSize(FontPixels);
     QApplication::setFont(font);
     workbench::applyPalette(workbench::paletteFromName(palette));
