@@ -148,6 +148,18 @@ def conditions():
         write("conditionexpression", f"wide-{i}", b"w" + text.encode("utf-16-le", "surrogatepass"))
 
 
+def bindkeys():
+    heads = ["", "a", "_1", "\u6e90:\u6570", "s:a.b", "a..b", ".a", "\U00010400", "a.", "a.{b", "a}.{b,c"]
+    tails = ["", "[]", "[][]", "[][][]", "[12][]", "[\u0663][]", "[1a][]", "[]\n", "\n\n", ".{a,b}", ".{a.b,}[]",
+             ".{}[]", "}", "}[]", ".{.{a}", ".{a}.{b}[]\n", "[2]", ".{a\n}"]
+    for i, head in enumerate(heads):
+        write("bindkey", f"keys-{i}-none", head.encode())
+        for k, tail in enumerate(tails):
+            write("bindkey", f"keys-{i}-{k}", (head + tail).encode())
+    for i, text in enumerate(["a\ud800", "\udc00[]", "a.{\ud83d\ude00}[]", "\0a", "a\u0301[]"]):
+        write("bindkey", f"wide-{i}", b"w" + text.encode("utf-16-le", "surrogatepass"))
+
+
 def choices():
     for target, longest in (("storedtext", 400), ("fragmentmerge", 150), ("operations", 300)):
         for i in range(60):
@@ -162,4 +174,5 @@ markup()
 units()
 records()
 conditions()
+bindkeys()
 choices()
