@@ -76,6 +76,7 @@ void NodePublisher::attach(LTextEffectNode *node)
     m_keepsStored = false;
     m_forceRedraw = false;
     m_forceStore = false;
+    m_hasCut = false;
     m_isLoaded = false;
 }
 
@@ -185,13 +186,11 @@ bool NodePublisher::storeTexts(const QPointer<LTextEffectNode> &node, int attach
     if ((isSame && !m_forceStore) || !isStillOurs()) {
         return false;
     }
-    bindTable(node, &texts, isStillOurs);
+    storeContent(node, &texts, isStillOurs);
     using Setter = void (LTextEffectNode::*)(const QString &);
-    const std::pair<Setter, QString> stored[] = {
-        {&LTextEffectNode::SetStringContent, texts.content},
-        {&LTextEffectNode::SetRawHtmlText, texts.raw},
-        {&LTextEffectNode::SetPlayText, texts.play},
-        {&LTextEffectNode::SetHtmlText, texts.display}};
+    const std::pair<Setter, QString> stored[] = {{&LTextEffectNode::SetRawHtmlText, texts.raw},
+                                                 {&LTextEffectNode::SetPlayText, texts.play},
+                                                 {&LTextEffectNode::SetHtmlText, texts.display}};
     for (const auto &[set, text] : stored) {
         if (isStillOurs()) {
             (node->*set)(text);
@@ -200,8 +199,25 @@ bool NodePublisher::storeTexts(const QPointer<LTextEffectNode> &node, int attach
     return true;
 }
 
-/** Writes the binding into the markup of the table; without a table there is no binding. */
-void NodePublisher::bindTable(const QPointer<LTextEffectNode> &node, Texts *texts,
+/** Writes what the player reads: the display HTML, and beside it the template of a table. */
+void NodePublisher::storeContent(const QPointer<LTextEffectNode> &node, Texts *texts,
+                                 const std::function<bool()> &isStillOurs)
+{
+    const bool hasTable = bindTable(node, texts, isStillOurs);
+    // What was loaded fits the templates that were loaded with it, and no others.
+    const bool isAsLoaded = !m_view->document()->isModified() && !m_forceStore && !m_hasCut;
+    if (hasTable && !isAsLoaded && !texts->display.isEmpty()) {
+        m_hasCut = true;
+        storeTemplate(node, texts->display, isStillOurs);
+    } else if (isStillOurs()) {
+        node->SetStringContent(texts->content);
+    }
+}
+
+/**
+ * Writes the binding into the markup of the table, true; without a table there is no binding.
+ */
+bool NodePublisher::bindTable(const QPointer<LTextEffectNode> &node, Texts *texts,
                               const std::function<bool()> &isStillOurs)
 {
     if (firstTable(m_view->document()) == nullptr) {
@@ -209,8 +225,9 @@ void NodePublisher::bindTable(const QPointer<LTextEffectNode> &node, Texts *text
         if (!keys.join(QString()).isEmpty()) {
             m_lostKeys = keys;
         }
+        m_hasCut = true;
         resetTableBinding(node, isStillOurs);
-        return;
+        return false;
     }
     if (!m_lostKeys.isEmpty() && m_view->document()->isRedoAvailable()) {
         setBindKeys(node, m_lostKeys, isStillOurs);
@@ -218,8 +235,8 @@ void NodePublisher::bindTable(const QPointer<LTextEffectNode> &node, Texts *text
     m_lostKeys.clear();
     if (m_view->document()->isModified() || m_forceStore) {
         texts->display = unifyTableColumnWidths(texts->display, tableMarksOf(node));
-        texts->content = texts->display;
     }
+    return true;
 }
 
 /** Preview, thumbnail and redraw, in this order. */

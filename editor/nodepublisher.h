@@ -97,8 +97,10 @@ private:
     }
     Pushed pushNow(const QPointer<LTextEffectNode> &node, int attachment);
     bool storeTexts(const QPointer<LTextEffectNode> &node, int attachment);
-    void bindTable(const QPointer<LTextEffectNode> &node, Texts *texts,
+    bool bindTable(const QPointer<LTextEffectNode> &node, Texts *texts,
                    const std::function<bool()> &isStillOurs);
+    void storeContent(const QPointer<LTextEffectNode> &node, Texts *texts,
+                      const std::function<bool()> &isStillOurs);
     void announce(const QPointer<LTextEffectNode> &node, int attachment);
     [[nodiscard]] Texts textsNow();
 
@@ -119,6 +121,7 @@ private:
     bool m_keepsStored = false;
     bool m_forceRedraw = false;
     bool m_forceStore = false;
+    bool m_hasCut = false; ///< The templates on the node are no more those that were loaded.
 };
 
 } // namespace lctrlsex

@@ -88,8 +88,28 @@ public:
     void LoadConditionStyles();
     /** Rebuilds the menus of sources, fields and expressions and redraws the field images. */
     void RefreshDataSource();
-    /** Does what follows when the bound field of the table changed. */
+    /**
+     * Classifies @p bindKey: its kind (see lctrlsex::BindKey) into @p kind, 0 when nothing can be
+     * bound to it, and the names of its fields.
+     */
+    [[nodiscard]] static QStringList GetFields(const QString &bindKey, int &kind);
+    /**
+     * Writes the placeholders of the bound key into the template cells of the table, in the tool
+     * bar's format and as one undo step. The document is stored before, and again as after any
+     * edit.
+     */
     void ProcessPaddingHtmlTable();
+    /**
+     * Stores @p html as what the node shows, and apart from it the template of its table where the
+     * bind key allows one.
+     */
+    void ExtractTemplate(const QString &html);
+    /**
+     * @p html with the widths, borders and binding attributes of its tables made fit for other
+     * renderers. Without a table the binding of the node is cleared. HTML that is not well-formed
+     * comes back as it is and clears nothing.
+     */
+    [[nodiscard]] QString UnifyTableColumnWidths(const QString &html) const;
 
 signals:
     /** Sent when it may have changed whether the document holds a table. */

@@ -8,6 +8,9 @@
 #include "nodecall.h"
 #include "nodepublisher.h"
 #include "table/bindingmenus.h"
+#include "table/placeholderplan.h"
+#include "table/tablebinding.h"
+#include "table/tablecommands.h"
 #include "textedit.h"
 #include "viewmenu.h"
 
@@ -73,29 +76,24 @@ void TextEdit::LoadConditionStyles()
     m_binding->setConditionStyles(lctrlsex::styleNames(styles));
 }
 
+QStringList TextEdit::GetFields(const QString &bindKey, int &kind)
+{
+    const lctrlsex::BindKey key = lctrlsex::classifyBindKey(bindKey);
+    kind = key.kind;
+    return key.fields;
+}
+
 void TextEdit::ProcessPaddingHtmlTable()
 {
     const int attachment = m_attachment;
     if (m_node.isNull()) {
         return;
     }
-    QString key;
-    switch (nodeCall(m_node, &LTextEffectNode::GetTableType)) {
-    case 1:
-        key = nodeCall(m_node, &LTextEffectNode::GetTableRowBindKey);
-        break;
-    case 2:
-        key = nodeCall(m_node, &LTextEffectNode::GetTableColBindKey);
-        break;
-    case 3:
-        key = nodeCall(m_node, &LTextEffectNode::GetTableAdaptRowsColsBindKey);
-        break;
-    default:
-        key = nodeCall(m_node, &LTextEffectNode::GetTableFixedBindKey);
-    }
+    const lctrlsex::TableMarks marks = lctrlsex::tableMarksOf(m_node);
     const auto descriptors = m_fields->index.descriptors();
-    const auto known = descriptors.constFind(key);
-    if (known != descriptors.constEnd() && isAttached(attachment)) {
+    const auto known = descriptors.constFind(marks.dataSourceKey);
+    const bool isKnown = known != descriptors.constEnd();
+    if (isKnown && isAttached(attachment)) {
         const bool isText = *known == lctrlsex::KeyDescriptor{1, 1};
         m_node->SetTableListTypeSeparator(isText ? QStringLiteral(",") : QStringLiteral("\n"));
     }
@@ -106,6 +104,25 @@ void TextEdit::ProcessPaddingHtmlTable()
         m_publisher->forceStore();
         TextDrawImage();
     }
+    if (isAttached(attachment) && !marks.dataSourceKey.isEmpty() && !m_view->isReadOnly()) {
+        const lctrlsex::BindKey key = lctrlsex::classifyBindKey(marks.dataSourceKey);
+        const bool isList = lctrlsex::deliversLists(key.kind, isKnown ? &*known : nullptr);
+        m_table->writePlaceholders({marks.tableType, marks.hasHeader, key, isList},
+                                   m_toolBar->typingStyle(m_textColor).toFormat());
+    }
+}
+
+void TextEdit::ExtractTemplate(const QString &html)
+{
+    const int attachment = m_attachment;
+    lctrlsex::storeTemplate(m_node, html, [this, attachment] { return isAttached(attachment); });
+}
+
+QString TextEdit::UnifyTableColumnWidths(const QString &html) const
+{
+    const int attachment = m_attachment;
+    return lctrlsex::unifyTables(m_node, html,
+                                 [this, attachment] { return isAttached(attachment); });
 }
 
 void TextEdit::ONDataSourceNameChanged(QAction *action)
@@ -146,7 +163,7 @@ void TextEdit::ApplyFormatAndInsert(const QString &field)
 
 void TextEdit::ONConditionStyleChanged(QAction *action)
 {
-    if (action == nullptr || !m_view->textCursor().hasSelection()) {
+    if (action == nullptr || !m_view->textCursor().hasSelection() || m_view->isReadOnly()) {
         return;
     }
     QTextCharFormat format = m_toolBar->typingStyle(m_textColor).toFormat();

@@ -21,6 +21,21 @@ void setBindKeys(const QPointer<LTextEffectNode> &node, const QStringList &keys,
                  const std::function<bool()> &isStill);
 
 /**
+ * Stores @p html as what @p node shows, with the table's template cut out of it where the bind key
+ * allows that, and beside it the template. HTML that is not well-formed is stored as it is, with a
+ * warning. Asks @p isStill as setBindKeys() does.
+ */
+void storeTemplate(const QPointer<LTextEffectNode> &node, const QString &html,
+                   const std::function<bool()> &isStill);
+
+/**
+ * unifyTableColumnWidths() of @p html with what @p node says of its table. Where the body has no
+ * table, resetTableBinding() too.
+ */
+[[nodiscard]] QString unifyTables(const QPointer<LTextEffectNode> &node, const QString &html,
+                                  const std::function<bool()> &isStill);
+
+/**
  * Clears bind keys, templates, placeholders and content of @p node, whose document has no table,
  * and announces that the configuration changed. Asks @p isStill as setBindKeys() does.
  */

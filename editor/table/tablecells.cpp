@@ -3,6 +3,7 @@
 #include "table/richtable.h"
 #include "table/tableoperations.h"
 
+#include <QTextBlock>
 #include <QTextCursor>
 #include <QTextTable>
 
@@ -117,6 +118,32 @@ void setText(const QTextTableCell &cell, const QString &text, const QTextCharFor
     cursor.insertText(text, format);
 }
 
+/** Whether @p format has all that @p wanted says. */
+bool holds(const QTextCharFormat &format, const QTextCharFormat &wanted)
+{
+    const QMap<int, QVariant> properties = wanted.properties();
+    for (auto it = properties.cbegin(); it != properties.cend(); ++it) {
+        if (format.property(it.key()) != it.value()) {
+            return false;
+        }
+    }
+    return true;
+}
+
+bool reads(const QTextTableCell &cell, const QString &text, const QTextCharFormat &format)
+{
+    const QTextBlock block = cell.firstCursorPosition().block();
+    if (block != cell.lastCursorPosition().block() || block.text() != text) {
+        return false;
+    }
+    for (auto it = block.begin(); !it.atEnd(); ++it) {
+        if (!holds(it.fragment().charFormat(), format)) {
+            return false;
+        }
+    }
+    return true;
+}
+
 } // namespace
 
 QVector<QStringList> cellsOf(const QString &text)
@@ -154,6 +181,26 @@ int fillCells(QTextTable *table, int row, int column, const QVector<QStringList>
     }
     block.endEditBlock();
     return left;
+}
+
+void writeCells(QTextTable *table, const QVector<CellText> &texts, const QTextCharFormat &format)
+{
+    QTextCursor step;
+    for (const CellText &text : texts) {
+        const QTextTableCell cell =
+            table != nullptr ? table->cellAt(text.row, text.column) : QTextTableCell();
+        if (!isFirstSlot(cell, text.row, text.column) || reads(cell, text.text, format)) {
+            continue;
+        }
+        if (step.isNull()) { // an empty step would be announced as a change
+            step = table->firstCursorPosition();
+            step.beginEditBlock();
+        }
+        setText(cell, text.text, format);
+    }
+    if (!step.isNull()) {
+        step.endEditBlock();
+    }
 }
 
 QPair<int, int> neighbourCell(const QTextTable &table, int row, int column, bool forward)

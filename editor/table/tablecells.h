@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QString>
 #include <QStringList>
 #include <QVector>
 
@@ -29,6 +30,21 @@ struct TableGrowth
  */
 int fillCells(QTextTable *table, int row, int column, const QVector<QStringList> &cells,
               TableGrowth growth, const QTextCharFormat &format);
+
+/** A text for the cell whose first slot is at row and column. */
+struct CellText
+{
+    int row = 0;
+    int column = 0;
+    QString text;
+};
+
+/**
+ * Puts each of @p texts, in @p format, in place of all that its cell holds. Left alone are a cell
+ * that reads so already in such letters and a slot that is not the first of its cell. One undo
+ * step, none when nothing changes.
+ */
+void writeCells(QTextTable *table, const QVector<CellText> &texts, const QTextCharFormat &format);
 
 /**
  * The slot of the cell behind that at @p row and @p column, or in front of it, row by row; -1, -1

@@ -1,5 +1,6 @@
 #include "tablecommands.h"
 
+#include "placeholderplan.h"
 #include "richtable.h"
 #include "table/tablecells.h"
 #include "table/tableoperations.h"
@@ -202,6 +203,14 @@ bool TableCommands::splitCell(bool vertical, int pieces)
     const Span cell = spanOf(table->cellAt(m_view->textCursor()));
     const Axis axis = vertical ? Axis::Rows : Axis::Columns;
     return lctrlsex::splitCell(table, cell.row, cell.column, axis, pieces);
+}
+
+void TableCommands::writePlaceholders(const TableBound &bound, const QTextCharFormat &format)
+{
+    QTextTable *table = m_view != nullptr ? firstTable(m_view->document()) : nullptr;
+    if (table != nullptr) {
+        writeCells(table, placeholderPlan(bound, table->rows(), table->columns()), format);
+    }
 }
 
 } // namespace lctrlsex

@@ -9,6 +9,8 @@ class QTextTable;
 
 namespace lctrlsex {
 
+struct TableBound;
+
 /** The table work of an editor: what its table menu does to the document of its view. */
 class TableCommands
 {
@@ -85,6 +87,9 @@ public:
      * how many found no place, -1 outside a table.
      */
     int fill(const QVector<QStringList> &cells, int type, const QTextCharFormat &format);
+
+    /** Writes the placeholders of @p bound into the first table, see writeCells(). */
+    void writePlaceholders(const TableBound &bound, const QTextCharFormat &format);
 
 private:
     QPointer<QTextEdit> m_view;

@@ -1,0 +1,176 @@
+#include "tabletemplate.h"
+
+#include "tableoutline.h"
+
+#include <QStringList>
+#include <QUuid>
+
+#include <algorithm>
+
+namespace lctrlsex {
+
+namespace {
+
+/** Digits that @p html does not hold. */
+QString newDigits(const QString &html)
+{
+    QString digits;
+    do {
+        digits = QString::number(qHash(QUuid::createUuid().toString(), 0));
+    } while (html.contains(digits));
+    return digits;
+}
+
+class Cutter
+{
+public:
+    Cutter(const QString &html, const TableOutline &table, bool hasHeader)
+        : m_html(html)
+        , m_table(table)
+        , m_index(hasHeader ? 1 : 0)
+    {
+        m_result.outcome = TableTemplate::Whole;
+        m_result.token = QStringLiteral("table:") + newDigits(html);
+    }
+
+    TableTemplate fixedForm()
+    {
+        if (hasTemplateRow()) {
+            m_result.part = text(templateRow().span);
+            m_result.fixedRows = int(m_table.rows.size() - m_index);
+            setContent(headOfFixedForm(), m_table.inside.end);
+        }
+        return m_result;
+    }
+
+    TableTemplate dynamicRows()
+    {
+        if (hasTemplateRow()) {
+            const MarkupSpan row = templateRow().span;
+            m_result.part = text(row);
+            setContent(m_html.left(row.begin), row.end);
+        }
+        return m_result;
+    }
+
+    /** Dynamic columns, and tables that grow both ways. */
+    TableTemplate cells(bool isAdaptive)
+    {
+        const bool hasPart =
+            std::any_of(m_table.rows.begin(), m_table.rows.end(), [this](const OutlinedRow &row) {
+                return templateCell(row) != row.cells.end();
+            });
+        if (!hasPart) {
+            return m_result;
+        }
+        const bool keepsRest = isAdaptive || m_index == 0;
+        for (const OutlinedRow &row : m_table.rows) {
+            if (!row.cells.empty()) {
+                addRow(row, keepsRest, isAdaptive && &row == &m_table.rows.front());
+            }
+        }
+        do {
+            m_result.separator = newDigits(m_html);
+        } while (m_result.token.contains(m_result.separator));
+        m_result.part = m_parts.join(m_result.separator);
+        m_result.prefix = m_prefixes.join(m_result.separator);
+        m_result.suffix = m_suffixes.join(m_result.separator);
+        setContent(m_html.left(m_table.inside.begin), m_table.inside.end);
+        return m_result;
+    }
+
+private:
+    using CellPlace = std::vector<OutlinedCell>::const_iterator;
+
+    [[nodiscard]] bool hasTemplateRow() const { return m_table.rows.size() > m_index; }
+    [[nodiscard]] const OutlinedRow &templateRow() const { return m_table.rows[m_index]; }
+
+    [[nodiscard]] QString text(MarkupSpan span) const { return span.in(m_html).toString(); }
+
+    [[nodiscard]] CellPlace templateCell(const OutlinedRow &row) const
+    {
+        return std::find_if(row.cells.begin(), row.cells.end(), [this](const OutlinedCell &cell) {
+            return cell.column == int(m_index);
+        });
+    }
+
+    /** Everything before the template row, with no section of the table left open. */
+    [[nodiscard]] QString headOfFixedForm() const
+    {
+        if (templateRow().section.isEmpty()) {
+            return m_html.left(templateRow().span.begin);
+        }
+        if (m_index == 0) {
+            return m_html.left(m_table.inside.begin);
+        }
+        const OutlinedRow &header = m_table.rows.front();
+        const QString head = m_html.left(header.span.end);
+        return header.section.isEmpty()
+                   ? head
+                   : head + QLatin1String("</") + header.section.toString() + QLatin1Char('>');
+    }
+
+    /** @p holdsRepetitions: cells of the author that the first row's template stands for. */
+    void addRow(const OutlinedRow &row, bool keepsRest, bool holdsRepetitions)
+    {
+        const CellPlace found = templateCell(row);
+        // Where there is none, its place is behind the cells of the columns before.
+        const CellPlace place =
+            std::find_if(row.cells.begin(), row.cells.end(),
+                         [this](const OutlinedCell &cell) { return cell.column >= int(m_index); });
+        QString prefix = QStringLiteral("<tr>");
+        for (auto cell = row.cells.begin(); cell != place; ++cell) {
+            prefix += cell->span.in(m_html);
+        }
+        QString suffix;
+        const CellPlace rest = found == row.cells.end() ? place : found + 1;
+        for (auto cell = rest; keepsRest && cell != row.cells.end(); ++cell) {
+            const QStringView markup = cell->span.in(m_html);
+            if (!holdsRepetitions || !markup.contains(QLatin1String("${i}"))) {
+                suffix += markup;
+            }
+        }
+        m_prefixes.append(prefix);
+        m_parts.append(found == row.cells.end() ? QString() : text(found->span));
+        m_suffixes.append(suffix + QLatin1String("</tr>"));
+    }
+
+    void setContent(const QString &head, int tail)
+    {
+        m_result.outcome = TableTemplate::Cut;
+        m_result.content =
+            head + QLatin1String("${") + m_result.token + QLatin1Char('}') + m_html.midRef(tail);
+    }
+
+    const QString &m_html;
+    const TableOutline &m_table;
+    size_t m_index; ///< Of the template's row or column.
+    TableTemplate m_result;
+    QStringList m_parts;
+    QStringList m_prefixes;
+    QStringList m_suffixes;
+};
+
+} // namespace
+
+TableTemplate cutTemplate(const QString &html, int tableType, bool hasHeader)
+{
+    TableTemplate none;
+    const FoundTable found = findTable(html);
+    if (!found.isWellFormed || !found.hasTable) {
+        none.outcome = found.isWellFormed ? TableTemplate::NoTable : TableTemplate::NotRead;
+        return none;
+    }
+    Cutter cutter(html, found.table, hasHeader);
+    switch (tableType) {
+    case 1:
+        return cutter.dynamicRows();
+    case 2:
+    case 3:
+        return cutter.cells(tableType == 3);
+    default:
+        return cutter.fixedForm();
+    }
+}
+
+} // namespace lctrlsex
