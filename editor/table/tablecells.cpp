@@ -5,6 +5,7 @@
 
 #include <QTextBlock>
 #include <QTextCursor>
+#include <QTextDocument>
 #include <QTextTable>
 
 #include <algorithm>
@@ -118,16 +119,15 @@ void setText(const QTextTableCell &cell, const QString &text, const QTextCharFor
     cursor.insertText(text, format);
 }
 
-/** Whether @p format has all that @p wanted says. */
-bool holds(const QTextCharFormat &format, const QTextCharFormat &wanted)
+/** Whether letters look alike in both; what a format leaves open is @p fallback's. */
+bool looksLike(const QTextCharFormat &format, const QTextCharFormat &other, const QFont &fallback)
 {
-    const QMap<int, QVariant> properties = wanted.properties();
-    for (auto it = properties.cbegin(); it != properties.cend(); ++it) {
-        if (format.property(it.key()) != it.value()) {
-            return false;
-        }
-    }
-    return true;
+    const QFont font = format.font().resolve(fallback);
+    const QFont wanted = other.font().resolve(fallback);
+    return font.family() == wanted.family() &&
+           qFuzzyCompare(font.pointSizeF(), wanted.pointSizeF()) &&
+           font.weight() == wanted.weight() && font.italic() == wanted.italic() &&
+           font.underline() == wanted.underline() && format.foreground() == other.foreground();
 }
 
 bool reads(const QTextTableCell &cell, const QString &text, const QTextCharFormat &format)
@@ -136,8 +136,9 @@ bool reads(const QTextTableCell &cell, const QString &text, const QTextCharForma
     if (block != cell.lastCursorPosition().block() || block.text() != text) {
         return false;
     }
+    const QFont fallback = block.document()->defaultFont();
     for (auto it = block.begin(); !it.atEnd(); ++it) {
-        if (!holds(it.fragment().charFormat(), format)) {
+        if (!looksLike(it.fragment().charFormat(), format, fallback)) {
             return false;
         }
     }
