@@ -196,6 +196,7 @@ void TextEdit::CreateConnect()
     connect(m_view, SIGNAL(textChanged()), this, SLOT(TextChanged()), Qt::QueuedConnection);
     connect(m_view, &QTextEdit::textChanged, this, &TextEdit::followGrowth);
     connect(m_view, SIGNAL(InsertCopyText(QString)), this, SLOT(InsertCopyText(QString)));
+    connect(m_view, &LRichViewEdit::fieldsPasted, this, &TextEdit::pasteFields);
     connect(m_view, &LRichViewEdit::insertionRefused, this, &TextEdit::showRefusal);
     connect(m_view, SIGNAL(InsertFieldNameSignal(QString)), this,
             SLOT(ONInsertFieldNameChanged(QString)));

@@ -29,6 +29,7 @@ class NodePublisher;
 class NoticeStrip;
 class TableCommands;
 class TableMenu;
+struct TextWithFields;
 } // namespace lctrlsex
 
 /**
@@ -259,6 +260,7 @@ private:
     bool moveInTable(bool forward);
     /** Fills cells of the table with what a spreadsheet copied; false when @p text is no more. */
     bool pasteCells(const QString &text, const QTextCharFormat &format);
+    void pasteFields(const lctrlsex::TextWithFields &pasted);
     void showGround();
     void redraw();
     void conversionEnded(int type, int outcome);

@@ -8,6 +8,7 @@
 #include "nodecall.h"
 #include "nodepublisher.h"
 #include "table/bindingmenus.h"
+#include "table/fieldclipboard.h"
 #include "table/placeholderplan.h"
 #include "table/tablebinding.h"
 #include "table/tablecommands.h"
@@ -159,6 +160,22 @@ void TextEdit::ApplyFormatAndInsert(const QString &field)
     m_view->setTextCursor(cursor);
     UpdateBindKeys();
     m_view->setFocus();
+}
+
+void TextEdit::pasteFields(const lctrlsex::TextWithFields &pasted)
+{
+    if (m_view->isReadOnly()) {
+        return;
+    }
+    QTextCursor cursor = m_view->textCursor();
+    const QString refusal = lctrlsex::insertTextWithFields(
+        &cursor, pasted, m_toolBar->typingStyle(Qt::white), m_singleLine);
+    if (!refusal.isEmpty()) {
+        showRefusal(refusal);
+        return;
+    }
+    m_view->setTextCursor(cursor);
+    UpdateBindKeys();
 }
 
 void TextEdit::ONConditionStyleChanged(QAction *action)

@@ -9,6 +9,7 @@
 #include "itemdocument.h"
 #include "pagelines.h"
 #include "pastedtext.h"
+#include "table/fieldclipboard.h"
 #include "table/tableground.h"
 #include "viewmenu.h"
 
@@ -274,7 +275,7 @@ void LRichViewEdit::contextMenuEvent(QContextMenuEvent *event)
 bool LRichViewEdit::canInsertFromMimeData(const QMimeData *source) const
 {
     return source->hasText() || source->hasFormat(FieldDrag::FieldFormat) ||
-           lctrlsex::offersPictures(*source);
+           lctrlsex::hasFields(*source) || lctrlsex::offersPictures(*source);
 }
 
 void LRichViewEdit::insertFromMimeData(const QMimeData *source)
@@ -285,6 +286,8 @@ void LRichViewEdit::insertFromMimeData(const QMimeData *source)
     if (source->hasFormat(FieldDrag::FieldFormat)) {
         emit InsertFieldNameSignal(
             QString::fromUtf8(source->data(FieldDrag::FieldFormat)).left(LongestKey));
+    } else if (lctrlsex::hasFields(*source)) {
+        emit fieldsPasted(lctrlsex::fieldsOf(*source));
     } else if (lctrlsex::offersPictures(*source)) {
         insertPictures(lctrlsex::picturesOf(*source, roomForPictures()));
     } else if (source->hasText()) {

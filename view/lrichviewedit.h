@@ -10,6 +10,7 @@ struct InsertedPicture;
 class ItemDocument;
 class ViewMenu;
 struct TextSettings;
+struct TextWithFields;
 } // namespace lctrlsex
 
 /**
@@ -84,6 +85,8 @@ signals:
     void TableTypeChangeSignal(LUM_EditInterface::LTableProperties properties);
     /** Text was pasted or dropped at the cursor. */
     void InsertCopyText(QString text);
+    /** Text that was copied with fields in it was pasted or dropped at the cursor. */
+    void fieldsPasted(const lctrlsex::TextWithFields &pasted);
     /** A field was picked or dropped at the cursor. */
     void InsertFieldNameSignal(QString field);
     /** Why a picture was not inserted, for the user. */

@@ -1,6 +1,7 @@
 #include "imageinsertion.h"
 #include "itemdocument.h"
 #include "lrichviewedit.h"
+#include "table/fieldclipboard.h"
 
 #include <QFileDialog>
 #include <QMimeData>
@@ -9,7 +10,12 @@
 QMimeData *LRichViewEdit::createMimeDataFromSelection() const
 {
     std::unique_ptr<QMimeData> picture = lctrlsex::pictureData(textCursor());
-    return picture != nullptr ? picture.release() : QTextEdit::createMimeDataFromSelection();
+    if (picture != nullptr) {
+        return picture.release();
+    }
+    QMimeData *copied = QTextEdit::createMimeDataFromSelection();
+    lctrlsex::addFields(copied, textCursor());
+    return copied;
 }
 
 QSize LRichViewEdit::roomForPictures() const

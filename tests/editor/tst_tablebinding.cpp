@@ -3,8 +3,10 @@
 #include "textedit.h"
 
 #include <QAction>
-#include <QComboBox>
+#include <QClipboard>
+#include <QMimeData>
 #include <QSignalSpy>
+#include <QTextBlock>
 #include <QTextDocument>
 #include <QTextEdit>
 #include <QTextTable>
@@ -42,6 +44,7 @@ private slots:
     void templatesFollow();
     void templatesFollowUndo();
     void commandsOfTheInterface();
+    void fieldsSurvive();
 
 private:
     void open(const QString &html);
@@ -271,6 +274,59 @@ void TestTableBinding::commandsOfTheInterface()
     QCOMPARE(m_editor->UnifyTableColumnWidths(none), none);
     QVERIFY(m_node->GetTableRowBindKey().isEmpty());
     QCOMPARE(announced.size(), 1);
+}
+
+/** Every field with its key and look, then the text. */
+static QString fieldsIn(const QTextDocument &document)
+{
+    QStringList found;
+    for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
+        for (auto it = block.begin(); !it.atEnd(); ++it) {
+            const QTextCharFormat format = it.fragment().charFormat();
+            const bool isField = format.hasProperty(0x5001) || format.hasProperty(0x5002);
+            found << (isField
+                          ? format.toImageFormat().name() + '|' + format.stringProperty(0x5001) +
+                                '|' + format.stringProperty(0x5002)
+                          : it.fragment().text());
+        }
+    }
+    return found.join(' ');
+}
+
+void TestTableBinding::fieldsSurvive()
+{
+    open("<table><tr><td></td><td></td></tr></table>");
+    m_view->setTextCursor(table()->cellAt(0, 0).firstCursorPosition());
+    m_editor->findChild<QAction *>("actionTextItalic")->setChecked(true);
+    m_editor->ApplyFormatAndInsert("s:a/b.c");
+    QTest::keyClicks(m_view, "x");
+    QCoreApplication::processEvents();
+    const QString once = fieldsIn(*m_view->document());
+    const QRegularExpression written(
+        "^data://bindKey/s/a/b.c.png\\|s:a/b.c\\|;[^;]+;\\d+;1;0;0;#ffffff; x$");
+    QVERIFY2(written.match(once).hasMatch(), qPrintable(once));
+
+    m_editor->Init(m_node.get());
+    QCOMPARE(fieldsIn(*m_view->document()), once);
+    QTextCursor cell = table()->cellAt(0, 0).firstCursorPosition();
+    cell.setPosition(table()->cellAt(0, 0).lastPosition(), QTextCursor::KeepAnchor);
+    m_view->setTextCursor(cell);
+    m_view->copy();
+    m_view->setTextCursor(table()->cellAt(0, 1).firstCursorPosition());
+    m_editor->PasteAction();
+    QCOMPARE(fieldsIn(*m_view->document()), once + ' ' + once);
+    QVERIFY(m_view->document()
+                ->resource(QTextDocument::ImageResource, QUrl("data://bindKey/s/a/b.c.png"))
+                .isValid());
+    m_view->undo();
+    QCOMPARE(fieldsIn(*m_view->document()), once);
+
+    auto *foreign = new QMimeData; // what others put there is data, too
+    foreign->setData("application/x-lctrlsex-fields",
+                     "{\"text\":\"<b>\\ufffc\\ufffc\",\"fields\":[{\"key\":\"\",\"style\":5}]}");
+    QGuiApplication::clipboard()->setMimeData(foreign);
+    m_editor->PasteAction();
+    QCOMPARE(fieldsIn(*m_view->document()), once + " <b>");
 }
 
 QTEST_MAIN(TestTableBinding)

@@ -117,6 +117,8 @@ void setUpSources()
 void setUpBinding(LTextEffectNode *node)
 {
     node->SetDataSource("Plant");
+    node->SetTableType(3);
+    node->SetTableAdaptRowsColsBindKey("Plant:Rows[][]");
     node->SetCalculation(R"([{"id":"1","key":"Sum","defaultValue":"3","expressions":[]}])");
     node->SetSpanConditions(R"([{"id":"7","name":"Warm"}])");
     node->SetPageCount(3);
