@@ -203,22 +203,23 @@ bool NodePublisher::storeTexts(const QPointer<LTextEffectNode> &node, int attach
 void NodePublisher::storeContent(const QPointer<LTextEffectNode> &node, Texts *texts,
                                  const std::function<bool()> &isStillOurs)
 {
-    const bool hasTable = bindTable(node, texts, isStillOurs);
-    // What was loaded fits the templates that were loaded with it, and no others.
-    const bool isAsLoaded = !m_view->document()->isModified() && !m_forceStore && !m_hasCut;
-    if (hasTable && !isAsLoaded && !texts->display.isEmpty()) {
+    const bool hasTable = followTable(node, isStillOurs);
+    if (hasTable && (m_view->document()->isModified() || m_forceStore)) {
+        const OutlinedHtml unified = unifyAndOutline(texts->display, tableMarksOf(node));
+        texts->display = unified.html;
         m_hasCut = true;
+        storeTemplate(node, unified, isStillOurs);
+    } else if (hasTable && m_hasCut && !texts->display.isEmpty()) {
+        // What was loaded fits the templates that were loaded with it, and no others.
         storeTemplate(node, texts->display, isStillOurs);
     } else if (isStillOurs()) {
         node->SetStringContent(texts->content);
     }
 }
 
-/**
- * Writes the binding into the markup of the table, true; without a table there is no binding.
- */
-bool NodePublisher::bindTable(const QPointer<LTextEffectNode> &node, Texts *texts,
-                              const std::function<bool()> &isStillOurs)
+/** Whether there is a table; without one there is no binding, and undo brings back both. */
+bool NodePublisher::followTable(const QPointer<LTextEffectNode> &node,
+                                const std::function<bool()> &isStillOurs)
 {
     if (firstTable(m_view->document()) == nullptr) {
         const QStringList keys = bindKeysOf(node);
@@ -233,9 +234,6 @@ bool NodePublisher::bindTable(const QPointer<LTextEffectNode> &node, Texts *text
         setBindKeys(node, m_lostKeys, isStillOurs);
     }
     m_lostKeys.clear();
-    if (m_view->document()->isModified() || m_forceStore) {
-        texts->display = unifyTableColumnWidths(texts->display, tableMarksOf(node));
-    }
     return true;
 }
 

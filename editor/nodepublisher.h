@@ -97,8 +97,8 @@ private:
     }
     Pushed pushNow(const QPointer<LTextEffectNode> &node, int attachment);
     bool storeTexts(const QPointer<LTextEffectNode> &node, int attachment);
-    bool bindTable(const QPointer<LTextEffectNode> &node, Texts *texts,
-                   const std::function<bool()> &isStillOurs);
+    bool followTable(const QPointer<LTextEffectNode> &node,
+                     const std::function<bool()> &isStillOurs);
     void storeContent(const QPointer<LTextEffectNode> &node, Texts *texts,
                       const std::function<bool()> &isStillOurs);
     void announce(const QPointer<LTextEffectNode> &node, int attachment);

@@ -11,6 +11,23 @@ namespace {
 constexpr size_t MostOpenElements = 1000;
 constexpr ushort FirstForbidden = 0xfffe; // a parser takes both that are left for the end
 
+/** The bit of a character that a search stops at; below 64, as all that matter are. */
+constexpr quint64 stopAt(ushort c)
+{
+    return quint64(1) << c;
+}
+
+/** The first character of those in @p stops, or forbidden; else @p end. */
+const ushort *nextStop(const ushort *at, const ushort *end, quint64 stops)
+{
+    for (; at < end; ++at) {
+        if (*at < 64 ? (stops >> *at & 1) != 0 : *at >= FirstForbidden) {
+            break;
+        }
+    }
+    return at;
+}
+
 bool isSpace(ushort c)
 {
     return c == ' ' || c == '\n' || c == '\r' || c == '\t';
@@ -79,8 +96,10 @@ bool StrictMarkupReader::skipText()
         m_at = std::find_if_not(m_at, m_end, isSpace);
         return m_at == m_end || *m_at == '<';
     }
-    while (m_at < m_end && *m_at != '<') {
-        const bool isEnd = *m_at == ']' && startsWith(QLatin1String("]]>"));
+    constexpr quint64 stops = stopAt('<') | stopAt('&') | stopAt('>');
+    while ((m_at = nextStop(m_at, m_end, stops)) < m_end && *m_at != '<') {
+        // Two brackets before it end a section that was never begun.
+        const bool isEnd = *m_at == '>' && m_at - m_begin > 1 && m_at[-1] == ']' && m_at[-2] == ']';
         if (isEnd || *m_at >= FirstForbidden || (*m_at == '&' && !skipEntity())) {
             return false;
         }
@@ -134,14 +153,16 @@ bool StrictMarkupReader::skipValue()
         return false;
     }
     const ushort quote = *m_at++;
-    for (; m_at < m_end; ++m_at) {
+    const quint64 stops = stopAt('<') | stopAt('&') | stopAt(quote);
+    while ((m_at = nextStop(m_at, m_end, stops)) < m_end) {
         if (*m_at == quote) {
             ++m_at;
             return true;
         }
-        if (*m_at == '<' || *m_at >= FirstForbidden || (*m_at == '&' && !skipEntity())) {
+        if (*m_at != '&' || !skipEntity()) {
             return false;
         }
+        ++m_at;
     }
     return false;
 }

@@ -109,12 +109,19 @@ void setBindKeys(const QPointer<LTextEffectNode> &node, const QStringList &keys,
 void storeTemplate(const QPointer<LTextEffectNode> &node, const QString &html,
                    const std::function<bool()> &isStill)
 {
+    storeTemplate(node, OutlinedHtml{html, findTable(html)}, isStill);
+}
+
+void storeTemplate(const QPointer<LTextEffectNode> &node, const OutlinedHtml &outlined,
+                   const std::function<bool()> &isStill)
+{
+    const QString &html = outlined.html;
     setAll(node, {{&Node::SetStringContent, html}}, isStill);
     if (!isStill()) {
         return;
     }
     const TableMarks marks = tableMarksOf(node);
-    const TableTemplate cut = cutTemplate(html, marks.tableType, marks.hasHeader);
+    const TableTemplate cut = cutTemplate(html, outlined.found, marks.tableType, marks.hasHeader);
     if (cut.outcome == TableTemplate::NotRead) {
         const MarkupError error = markupError(html);
         qCWarning(tableLog) << "HTML parse error at line" << error.line << "column" << error.column

@@ -27,6 +27,9 @@ void setBindKeys(const QPointer<LTextEffectNode> &node, const QStringList &keys,
  */
 void storeTemplate(const QPointer<LTextEffectNode> &node, const QString &html,
                    const std::function<bool()> &isStill);
+/** The same where findTable() is known. */
+void storeTemplate(const QPointer<LTextEffectNode> &node, const OutlinedHtml &html,
+                   const std::function<bool()> &isStill);
 
 /**
  * unifyTableColumnWidths() of @p html with what @p node says of its table. Where the body has no

@@ -1,10 +1,11 @@
 #include "tablemarkup.h"
 
-#include "htmltokens.h"
+#include "markupedits.h"
+#include "strictmarkup.h"
+#include "tableborder.h"
 #include "tablewidths.h"
 
 #include <QHash>
-#include <QStringList>
 #include <QVector>
 
 #include <algorithm>
@@ -13,93 +14,6 @@
 namespace lctrlsex {
 
 namespace {
-
-/** A stretch of the text and what takes its place; an empty one is a place for more. */
-struct Edit
-{
-    int begin;
-    int end;
-    QString text;
-};
-
-bool isNamed(const HtmlToken &token, QLatin1String name)
-{
-    return token.name.compare(name, Qt::CaseInsensitive) == 0;
-}
-
-HtmlAttribute attributeOf(const HtmlToken &tag, QLatin1String key)
-{
-    const auto found = std::find_if(tag.attributes.begin(), tag.attributes.end(),
-                                    [key](const HtmlAttribute &attribute) {
-                                        return attribute.key.compare(key, Qt::CaseInsensitive) == 0;
-                                    });
-    return found == tag.attributes.end() ? HtmlAttribute() : *found;
-}
-
-bool isThere(const HtmlAttribute &attribute)
-{
-    return attribute.end > attribute.begin;
-}
-
-QString valueOf(const HtmlToken &tag, QLatin1String key, const QString &fallback = QString())
-{
-    const HtmlAttribute attribute = attributeOf(tag, key);
-    return isThere(attribute) ? attributeText(attribute) : fallback;
-}
-
-/** Where further attributes of a tag go. */
-int insertionPlace(const HtmlToken &tag)
-{
-    return tag.end - (tag.selfClosed ? 2 : 1);
-}
-
-/** @p style with another declaration behind what it says. */
-QString withDeclaration(const QString &style, const QString &declaration)
-{
-    QString result = style.trimmed();
-    if (!result.isEmpty() && !result.endsWith(QLatin1Char(';'))) {
-        result += QLatin1Char(';');
-    }
-    return result + QLatin1Char(' ') + declaration;
-}
-
-/** The border of a table: what of it is repeated on each cell. */
-struct Border
-{
-    explicit Border(const HtmlToken &table)
-        : width(valueOf(table, QLatin1String("border"), QStringLiteral("1")) + QLatin1String("px"))
-    {
-        const auto declarations =
-            valueOf(table, QLatin1String("style")).split(QLatin1Char(';'), Qt::SkipEmptyParts);
-        for (const QString &declaration : declarations) {
-            constexpr int nameLength = 13; // of each of the three
-            const QString text = declaration.trimmed();
-            const QString value = text.mid(nameLength).trimmed();
-            if (text.startsWith(QLatin1String("border-style:"))) {
-                style = value;
-            } else if (text.startsWith(QLatin1String("border-color:"))) {
-                color = value;
-            } else if (text.startsWith(QLatin1String("border-width:"))) {
-                width = value;
-            }
-        }
-    }
-
-    [[nodiscard]] QString declaration() const
-    {
-        return QStringLiteral("border:%1 %2 %3;").arg(width, style, color);
-    }
-    [[nodiscard]] int pixels() const
-    {
-        bool isNumber = false;
-        const int number = int(width.leftRef(width.size() - 2).toDouble(&isNumber));
-        return isNumber && width.endsWith(QLatin1String("px")) ? number : 1;
-    }
-
-    QString style = QStringLiteral("solid");
-    QString color = QStringLiteral("#ff0000");
-    QString width;
-};
 
 double pixelsOf(const QString &width, int tableWidth)
 {
@@ -138,8 +52,11 @@ public:
 
     void addRow()
     {
+        const size_t expected = m_cells.empty() ? 0 : m_cells.back().size();
         m_cells.emplace_back();
+        m_cells.back().reserve(expected);
         m_extents.append(QVector<CellExtent>());
+        m_extents.last().reserve(int(expected));
     }
 
     void addCell(const HtmlToken &tag)
@@ -147,6 +64,7 @@ public:
         if (m_cells.empty()) {
             return;
         }
+        ++m_cellCount;
         const HtmlAttribute width = attributeOf(tag, QLatin1String("width"));
         m_cells.back().push_back(
             {attributeOf(tag, QLatin1String("style")), width, insertionPlace(tag)});
@@ -155,32 +73,31 @@ public:
                                  isThere(width) ? pixelsOf(attributeText(width), m_width) : -1});
     }
 
-    void finish(const TableMarks &marks, std::vector<Edit> *edits) const
+    void finish(const TableMarks &marks, std::vector<MarkupEdit> *edits) const
     {
+        edits->reserve(edits->size() + 2 * m_cellCount + 8);
         markTable(marks, edits);
         const QVector<QVector<int>> widths =
             m_width > 0 ? cellWidths(m_extents, m_width, m_border.pixels() + 2 * padding())
                         : QVector<QVector<int>>();
-        const QString border = m_border.declaration().toHtmlEscaped();
-        const QString bare = assignment(QLatin1String("style"), withDeclaration({}, border));
+        const BorderTexts border(m_border);
         QHash<int, QString> numbers; // the same few widths stand in every row
         for (size_t row = 0; row < m_cells.size(); ++row) {
             for (size_t i = 0; i < m_cells[row].size(); ++i) {
                 const Cell &cell = m_cells[row][i];
-                const QString style = isThere(cell.style)
-                                          ? assignment(QLatin1String("style"),
-                                                       withDeclaration(escaped(cell.style), border))
-                                          : bare;
-                set(style, cell.style, cell.insertAt, edits);
+                edits->push_back(border.editOf(cell.style, cell.insertAt));
                 if (widths.isEmpty()) {
                     continue;
                 }
-                QString &width = numbers[widths[int(row)][int(i)]];
-                if (width.isEmpty()) {
-                    width = assignment(QLatin1String("width"),
-                                       QString::number(widths[int(row)][int(i)]));
+                const int pixels = widths[int(row)][int(i)];
+                QString &number = numbers[isThere(cell.width) ? pixels : -1 - pixels];
+                if (number.isEmpty()) {
+                    number = editText(QLatin1String("width"), QString::number(pixels), cell.width);
                 }
-                set(width, cell.width, cell.insertAt, edits);
+                edits->push_back(editOf(number, cell.width, cell.insertAt));
+                if (edits->back().begin < edits->end()[-2].begin) {
+                    std::swap(edits->back(), edits->end()[-2]); // in order, nothing is to be sorted
+                }
             }
         }
     }
@@ -191,40 +108,16 @@ private:
         return valueOf(m_tag, QLatin1String("cellpadding"), QStringLiteral("1")).toInt();
     }
 
-    /** The value as it may stand between double quotes. */
-    static QString escaped(const HtmlAttribute &attribute)
-    {
-        if (!isThere(attribute)) {
-            return QString();
-        }
-        return attribute.quote == HtmlAttribute::Quote::Double
-                   ? attribute.value.toString()
-                   : attributeText(attribute).toHtmlEscaped();
-    }
-
-    static QString assignment(QLatin1String key, const QString &value)
-    {
-        return key + QLatin1String("=\"") + value + QLatin1Char('"');
-    }
-
-    /** Writes @p text in place of @p old, or at @p insertAt when that is not there. */
-    static void set(const QString &text, const HtmlAttribute &old, int insertAt,
-                    std::vector<Edit> *edits)
-    {
-        const bool isReplaced = isThere(old);
-        edits->push_back(
-            {isReplaced ? old.begin : insertAt, isReplaced ? old.end : insertAt, text});
-    }
-
-    void markTable(const TableMarks &marks, std::vector<Edit> *edits) const
+    void markTable(const TableMarks &marks, std::vector<MarkupEdit> *edits) const
     {
         const auto mark = [this, edits](QLatin1String key, const QString &value) {
-            set(assignment(key, value), attributeOf(m_tag, key), insertionPlace(m_tag), edits);
+            const HtmlAttribute old = attributeOf(m_tag, key);
+            edits->push_back(editOf(editText(key, value, old), old, insertionPlace(m_tag)));
         };
         const auto flag = [](bool on) {
             return on ? QStringLiteral("true") : QStringLiteral("false");
         };
-        const QString style = escaped(attributeOf(m_tag, QLatin1String("style")));
+        const QString style = escapedValue(attributeOf(m_tag, QLatin1String("style")));
         if (!style.contains(QLatin1String("border-collapse"))) {
             mark(QLatin1String("style"),
                  withDeclaration(style, QStringLiteral("border-collapse:collapse;")));
@@ -240,69 +133,111 @@ private:
     }
 
     HtmlToken m_tag;
-    Border m_border;
+    TableBorder m_border;
     int m_width;
     std::vector<std::vector<Cell>> m_cells; ///< Row by row.
+    size_t m_cellCount = 0;
     QVector<QVector<CellExtent>> m_extents;
 };
 
-/** The edits of all tables of a text; false when it has no body or a table does not end. */
-bool findEdits(const QString &html, const TableMarks &marks, std::vector<Edit> *edits)
+/** Collects the edits of all tables of a text. */
+class EditFinder
 {
-    bool hasBody = false;
-    std::vector<OpenTable> open;
-    HtmlTokenReader reader(html);
-    HtmlToken token;
-    while (reader.next(token)) {
-        if (token.kind == HtmlToken::Kind::Open) {
-            hasBody = hasBody || isNamed(token, QLatin1String("body"));
-            if (isNamed(token, QLatin1String("table"))) {
-                open.emplace_back(token);
-            } else if (!open.empty() && isNamed(token, QLatin1String("tr"))) {
-                open.back().addRow();
-            } else if (!open.empty() && isNamed(token, QLatin1String("td"))) {
-                open.back().addCell(token);
+public:
+    EditFinder(const QString &html, const TableMarks &marks, std::vector<MarkupEdit> *edits)
+        : m_html(html)
+        , m_attributes(html)
+        , m_outliner(html)
+        , m_marks(marks)
+        , m_edits(edits)
+    {}
+
+    /** False when the text is not well-formed or has no body. */
+    bool find()
+    {
+        StrictMarkupReader reader(m_html);
+        MarkupTag tag;
+        while (reader.next(tag)) {
+            m_outliner.read(tag);
+            if (tag.kind == MarkupTag::Kind::Close) {
+                close(tag);
+            } else if (!open(tag)) {
+                return false;
             }
-        } else if (token.kind == HtmlToken::Kind::Close && !open.empty() &&
-                   isNamed(token, QLatin1String("table"))) {
-            open.back().finish(marks, edits);
-            open.pop_back();
+        }
+        m_found = m_outliner.take(reader.isComplete());
+        return m_found.hasBody && m_found.isWellFormed;
+    }
+    [[nodiscard]] const FoundTable &found() const { return m_found; }
+
+private:
+    /** False when the attributes are quoted in a way that Qt reads differently. */
+    bool open(const MarkupTag &tag)
+    {
+        const bool isTable = tag.name == QStringView(u"table");
+        if (isTable || (!m_open.empty() && tag.name == QStringView(u"td"))) {
+            m_attributes.seek(tag.begin);
+            if (!m_attributes.next(m_token) || m_token.end != tag.end) {
+                return false;
+            }
+            if (isTable) {
+                m_open.emplace_back(m_token);
+            } else {
+                m_open.back().addCell(m_token);
+            }
+        } else if (!m_open.empty() && tag.name == QStringView(u"tr")) {
+            m_open.back().addRow();
+        }
+        if (isTable && tag.kind == MarkupTag::Kind::Empty) {
+            close(tag);
+        }
+        return true;
+    }
+
+    void close(const MarkupTag &tag)
+    {
+        if (tag.name == QStringView(u"table")) {
+            m_open.back().finish(m_marks, m_edits);
+            m_open.pop_back();
         }
     }
-    return hasBody && open.empty();
-}
+
+    QStringView m_html;
+    HtmlTokenReader m_attributes;
+    HtmlToken m_token;
+    TableOutliner m_outliner;
+    FoundTable m_found;
+    const TableMarks &m_marks;
+    std::vector<MarkupEdit> *m_edits;
+    std::vector<OpenTable> m_open;
+};
 
 } // namespace
 
-QString unifyTableColumnWidths(const QString &html, const TableMarks &marks)
+OutlinedHtml unifyAndOutline(const QString &html, const TableMarks &marks)
 {
-    std::vector<Edit> edits;
-    if (!findEdits(html, marks, &edits)) {
-        return html;
+    std::vector<MarkupEdit> edits;
+    EditFinder finder(html, marks, &edits);
+    const bool isFound = finder.find();
+    OutlinedHtml result{html, finder.found()};
+    if (!isFound) {
+        return result;
     }
     // Tables inside others end first.
-    const auto isBefore = [](const Edit &left, const Edit &right) {
+    const auto isBefore = [](const MarkupEdit &left, const MarkupEdit &right) {
         return left.begin < right.begin;
     };
     if (!std::is_sorted(edits.begin(), edits.end(), isBefore)) {
         std::stable_sort(edits.begin(), edits.end(), isBefore);
     }
-    int size = html.size();
-    for (const Edit &edit : edits) {
-        size += 1 + edit.text.size() - (edit.end - edit.begin);
-    }
-    QString result;
-    result.reserve(size);
-    int done = 0;
-    for (const Edit &edit : edits) {
-        result += html.midRef(done, edit.begin - done);
-        if (edit.begin == edit.end) {
-            result += QLatin1Char(' ');
-        }
-        result += edit.text;
-        done = edit.end;
-    }
-    return result + html.midRef(done);
+    result.html = edited(html, edits);
+    moveTable(&result.found.table, edits);
+    return result;
+}
+
+QString unifyTableColumnWidths(const QString &html, const TableMarks &marks)
+{
+    return unifyAndOutline(html, marks).html;
 }
 
 } // namespace lctrlsex

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "tableoutline.h"
+
 #include <QString>
 
 namespace lctrlsex {
@@ -18,9 +20,19 @@ struct TableMarks
  * @p html with every table made fit for other renderers: borders collapsed and written on each
  * cell, widths of all cells in whole pixels that make up the table's, and the attributes of
  * @p marks. Everything else stays to the letter, blanks and the order of attributes included. HTML
- * without a body, or in which a table does not end, comes back unchanged. A table whose own width
+ * that is not well-formed or has no body comes back unchanged. A table whose own width
  * is no number of pixels keeps the widths of its cells.
  */
 [[nodiscard]] QString unifyTableColumnWidths(const QString &html, const TableMarks &marks);
+
+/** HTML with the place of its first table. */
+struct OutlinedHtml
+{
+    QString html;
+    FoundTable found;
+};
+
+/** unifyTableColumnWidths() with what findTable() finds in the result. */
+[[nodiscard]] OutlinedHtml unifyAndOutline(const QString &html, const TableMarks &marks);
 
 } // namespace lctrlsex

@@ -1,7 +1,5 @@
 #include "tabletemplate.h"
 
-#include "tableoutline.h"
-
 #include <QStringList>
 #include <QUuid>
 
@@ -107,7 +105,7 @@ private:
         const QString head = m_html.left(header.span.end);
         return header.section.isEmpty()
                    ? head
-                   : head + QLatin1String("</") + header.section.toString() + QLatin1Char('>');
+                   : head + QLatin1String("</") + header.section + QLatin1Char('>');
     }
 
     /** @p holdsRepetitions: cells of the author that the first row's template stands for. */
@@ -124,6 +122,9 @@ private:
         }
         QString suffix;
         const CellPlace rest = found == row.cells.end() ? place : found + 1;
+        suffix.reserve(keepsRest && rest != row.cells.end()
+                           ? row.cells.back().span.end - rest->span.begin
+                           : 0);
         for (auto cell = rest; keepsRest && cell != row.cells.end(); ++cell) {
             const QStringView markup = cell->span.in(m_html);
             if (!holdsRepetitions || !markup.contains(QLatin1String("${i}"))) {
@@ -155,8 +156,13 @@ private:
 
 TableTemplate cutTemplate(const QString &html, int tableType, bool hasHeader)
 {
+    return cutTemplate(html, findTable(html), tableType, hasHeader);
+}
+
+TableTemplate cutTemplate(const QString &html, const FoundTable &found, int tableType,
+                          bool hasHeader)
+{
     TableTemplate none;
-    const FoundTable found = findTable(html);
     if (!found.isWellFormed || !found.hasTable) {
         none.outcome = found.isWellFormed ? TableTemplate::NoTable : TableTemplate::NotRead;
         return none;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "strictmarkup.h"
+#include "tableoutline.h"
 
 #include <QString>
 
@@ -33,5 +33,8 @@ struct TableTemplate
  * or moves does so to the letter. Token and separator are new each time.
  */
 [[nodiscard]] TableTemplate cutTemplate(const QString &html, int tableType, bool hasHeader);
+/** The same where findTable() of @p html is known. */
+[[nodiscard]] TableTemplate cutTemplate(const QString &html, const FoundTable &found, int tableType,
+                                        bool hasHeader);
 
 } // namespace lctrlsex
