@@ -148,6 +148,7 @@ def conditions():
         write("conditionexpression", f"wide-{i}", b"w" + text.encode("utf-16-le", "surrogatepass"))
 
 
+<<<<<<< HEAD
 def bindkeys():
     heads = ["", "a", "_1", "\u6e90:\u6570", "s:a.b", "a..b", ".a", "\U00010400", "a.", "a.{b", "a}.{b,c"]
     tails = ["", "[]", "[][]", "[][][]", "[12][]", "[\u0663][]", "[1a][]", "[]\n", "\n\n", ".{a,b}", ".{a.b,}[]",
@@ -158,6 +159,21 @@ def bindkeys():
             write("bindkey", f"keys-{i}-{k}", (head + tail).encode())
     for i, text in enumerate(["a\ud800", "\udc00[]", "a.{\ud83d\ude00}[]", "\0a", "a\u0301[]"]):
         write("bindkey", f"wide-{i}", b"w" + text.encode("utf-16-le", "surrogatepass"))
+=======
+def replies():
+    tables = ["a,b\n1,\"x,\"\"y\"\"\n2\"\n3,\n", "a;b\r\n1,5;2\r\n", "a\tb\n\t2\n", "a|b\n1|2",
+              "\ufeffa\n1\n", "a,b\n1\n2,3\n", "a\n1,2\n", "a,,a,a 2\n1,2,3,4\n", "a\n1\0\n", "a,b\n1,\"2",
+              "\n\n", "," * 300, "\u540d\n\u4e2d\n", "a,b\n" * 50, " \"a\" , b \n"]
+    for i, table in enumerate(tables):
+        for encoding in range(3):
+            write("replies", f"csv-{i}-{encoding}", bytes([3 * encoding]) + table.encode())
+    objects = ['{"z": 12.50, "a": -1e3, "t": true, "n": null}', "[1, [2], {}]", " 7 ",
+               '[{"a": 1}, {"b": "", "a": null}]', '[{"a": 1}, {"a": [1]}]',
+               '{"a": "\\ud83d\\ude00\\ud83d\\u0000"}', "[1e400]", '{"a": [1, 2', "{} x", "[01]", '["\\u-12f"]',
+               "[" * 300, '{"g": [[1, 2], [3]], "r": {"a": {"b": 1}}}', '{"a": 1, "a": 2, "": 3}']
+    for i, text in enumerate(objects):
+        write("replies", f"json-{i}", bytes([2]) + text.encode())
+>>>>>>> 4d085b8 (Document data sources, measure a million rows and feed the readers with whatever comes)
 
 
 def choices():
@@ -174,5 +190,9 @@ markup()
 units()
 records()
 conditions()
+<<<<<<< HEAD
 bindkeys()
+=======
+replies()
+>>>>>>> 4d085b8 (Document data sources, measure a million rows and feed the readers with whatever comes)
 choices()

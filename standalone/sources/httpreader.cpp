@@ -182,40 +182,35 @@ Reading HttpReader::answered(bool *goesOn)
         reading.outcome = Reading::Unchanged;
         return reading;
     }
-    if (status >= 400) {
-        return refused(status);
-    }
-    if (m_reply->error() != QNetworkReply::NoError) {
+    if (status < 400 && m_reply->error() != QNetworkReply::NoError) {
         return Reading::failed(
             SourceTexts::tr("the connection failed: %1").arg(m_reply->errorString()));
     }
     if (status != 200) {
         return refused(status);
     }
+    if (!isEndKnown() && m_former.isEmpty() && !m_body.isEmpty()) {
+        *goesOn = true;
+        askAgain();
+        return {};
+    }
     const QString fault = faultOfBody();
     if (!fault.isEmpty()) {
         return Reading::failed(fault);
-    }
-    if (!isEndKnown()) {
-        if (m_former.isEmpty()) {
-            m_former = m_body;
-            *goesOn = true;
-            const QUrl url = m_reply->url();
-            drop();
-            get(url);
-            return {};
-        }
-        const bool isOneCut =
-            m_former != m_body && (m_former.startsWith(m_body) || m_body.startsWith(m_former));
-        if (isOneCut) {
-            return Reading::failed(SourceTexts::tr("the answer is cut off"));
-        }
     }
     const Reply reply = parseReply(m_body, formatOfBody(), settings(), stop());
     const bool isWhole = reply.error.isEmpty();
     m_tag = isWhole ? m_reply->rawHeader("ETag") : QByteArray();
     m_modified = isWhole ? m_reply->rawHeader("Last-Modified") : QByteArray();
     return Reading::of(reply, m_body.size());
+}
+
+void HttpReader::askAgain()
+{
+    m_former = m_body;
+    const QUrl url = m_reply->url();
+    drop();
+    get(url);
 }
 
 Reading HttpReader::refused(int status) const
@@ -250,6 +245,11 @@ QString HttpReader::faultOfBody() const
     }
     if (m_body.isEmpty()) {
         return SourceTexts::tr("the answer is empty");
+    }
+    const bool isOneCut = !m_former.isEmpty() && m_former != m_body &&
+                          (m_former.startsWith(m_body) || m_body.startsWith(m_former));
+    if (isOneCut) {
+        return SourceTexts::tr("the answer is cut off");
     }
     return formatOfBody().isEmpty()
                ? SourceTexts::tr("the content type %1 is neither JSON nor CSV; set \"format\"")

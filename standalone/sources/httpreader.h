@@ -33,6 +33,7 @@ private:
     void finishReply();
     [[nodiscard]] Reading followRedirection(bool *goesOn);
     [[nodiscard]] Reading answered(bool *goesOn);
+    void askAgain();
     [[nodiscard]] bool isEndKnown() const;
     [[nodiscard]] Reading refused(int status) const;
     [[nodiscard]] QString faultOfBody() const;

@@ -91,7 +91,10 @@ void ReplayReader::read()
     }
     const QByteArray line = nextLine();
     const DataValue played = parseJson(line).value;
-    m_playedTime = timeOf(played);
+    if (!m_playing.isValid()) {
+        m_playing.start();
+        m_firstTime = timeOf(played);
+    }
     reading.bytes = line.size();
     reading.value = played.member(Value);
     reading.error = played.member(Error).text();
@@ -113,7 +116,7 @@ int ReplayReader::nextInterval() const
     }
     const int end = m_lines.indexOf('\n', m_at);
     const qint64 next = timeOf(parseJson(m_lines.mid(m_at, end - m_at)).value);
-    return int(qBound<qint64>(0, next - m_playedTime, 24 * 3600 * 1000));
+    return int(qBound<qint64>(0, next - m_firstTime - m_playing.elapsed(), 24 * 3600 * 1000));
 }
 
 } // namespace sources

@@ -2,6 +2,7 @@
 
 #include "sourcereader.h"
 
+#include <QElapsedTimer>
 #include <QFile>
 
 namespace sources {
@@ -43,7 +44,8 @@ private:
     QString m_error; ///< Why there are no lines.
     int m_at = 0;
     int m_number = 0;        ///< Of the line that was read last.
-    qint64 m_playedTime = 0; ///< Of its reading, in milliseconds since 1970.
+    qint64 m_firstTime = -1; ///< Of the first reading, in milliseconds since 1970.
+    QElapsedTimer m_playing; ///< Since then.
 };
 
 } // namespace sources

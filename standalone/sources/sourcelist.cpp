@@ -105,6 +105,32 @@ void readFile(const QString &fileName, ReadSources *read)
     readList(json.isArray() ? QJsonValue(json.array()) : QJsonValue(), JsonPath(), bytes, read);
 }
 
+/** The list as it is stored; an error names the first fault. */
+QJsonArray toArray(const SourceList &list, const JsonPath &root, ProgrammeError *error)
+{
+    QJsonArray array;
+    QSet<QString> names;
+    for (const SourceSettings &settings : list.sources) {
+        const JsonPath path = root.index(array.size());
+        const QVector<SettingsFault> faults =
+            settingsFaults(settings, path) + nameFaults(settings.name, path, &names);
+        if (!faults.isEmpty()) {
+            *error = errorOf(faults.constFirst(), QByteArray());
+            return array;
+        }
+        array.append(settingsToJson(settings));
+    }
+    for (const QJsonValue &entry : list.faulty) {
+        const auto secrets = secretFaults(entry.toObject(), root.index(array.size()));
+        if (!secrets.isEmpty()) {
+            *error = errorOf(secrets.constFirst(), QByteArray());
+            return array;
+        }
+        array.append(entry);
+    }
+    return array;
+}
+
 } // namespace
 
 ReadSources readSources(const LControllerNode &programme, const QString &folder,
@@ -131,23 +157,10 @@ ProgrammeError storeSources(LControllerNode *programme, const QString &folder,
                                               "so that it is not lost")},
                        QByteArray());
     }
-    QJsonArray array;
-    QSet<QString> names;
-    for (const SourceSettings &settings : list.sources) {
-        const JsonPath path = root.index(array.size());
-        const QVector<SettingsFault> faults =
-            settingsFaults(settings, path) + nameFaults(settings.name, path, &names);
-        if (!faults.isEmpty()) {
-            return errorOf(faults.constFirst(), QByteArray());
-        }
-        array.append(settingsToJson(settings));
-    }
-    for (const QJsonValue &entry : list.faulty) {
-        const auto secrets = secretFaults(entry.toObject(), root.index(array.size()));
-        if (!secrets.isEmpty()) {
-            return errorOf(secrets.constFirst(), QByteArray());
-        }
-        array.append(entry);
+    ProgrammeError error;
+    const QJsonArray array = toArray(list, root, &error);
+    if (error.isSet()) {
+        return error;
     }
     QJsonValue value = array;
     if (!list.reference.isEmpty()) {

@@ -155,6 +155,9 @@ QString urlFault(const QString &url)
 QVector<SettingsFault> kindFaults(const SourceSettings &settings, const JsonPath &path)
 {
     QVector<SettingsFault> faults;
+    if (!settings.replay.isEmpty()) {
+        return faults; // whatever it is, it is not asked
+    }
     const QString missing = SourceTexts::tr("it is missing");
     const bool isFile =
         settings.type == DataSourceEntry::CsvFile || settings.type == DataSourceEntry::JsonFile;

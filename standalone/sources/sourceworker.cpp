@@ -35,6 +35,11 @@ SourceWorker::SourceWorker(std::unique_ptr<SourceReader> reader, const SourceSet
     connect(&m_timer, &QTimer::timeout, this, &SourceWorker::read);
 }
 
+SourceWorker::~SourceWorker()
+{
+    m_cache.flush(); // the application's end may be faster than shutDown()
+}
+
 void SourceWorker::start()
 {
     connect(m_reader.get(), &SourceReader::finished, this, &SourceWorker::finish);

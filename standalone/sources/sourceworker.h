@@ -40,6 +40,8 @@ public:
     SourceWorker(std::unique_ptr<SourceReader> reader, const SourceSettings &settings,
                  const SourceContext &context, std::shared_ptr<Mailbox> mailbox);
 
+    ~SourceWorker() override;
+
     /** In the thread of the source, as everything below. */
     void start();
     /** Reads soon, whenever the next attempt was planned. */

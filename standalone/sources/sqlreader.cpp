@@ -81,6 +81,17 @@ QByteArray textOf(const QVariant &value)
     }
 }
 
+void addRow(const QSqlQuery &result, int columns, CellWriter *writer, qint64 *bytes)
+{
+    writer->beginRow();
+    for (int column = 0; column < columns; ++column) {
+        const bool isMissing = result.isNull(column);
+        const QByteArray text = isMissing ? QByteArray() : textOf(result.value(column));
+        writer->addCell(isMissing ? nullptr : text.constData(), size_t(text.size()));
+        *bytes += text.size();
+    }
+}
+
 } // namespace
 
 SqlReader::SqlReader(const SourceSettings &settings, const SourceContext &context)
@@ -186,60 +197,51 @@ Reading SqlReader::runAll()
 
 DataValue SqlReader::run(const NamedText &query, qint64 *bytes, QString *error) const
 {
-    const auto fail = [error](const QString &reason) {
-        *error = reason;
-        return DataValue();
-    };
     QElapsedTimer elapsed;
     elapsed.start();
     QSqlQuery result(QSqlDatabase::database(m_connection, false));
     result.setForwardOnly(true);
     result.setNumericalPrecisionPolicy(QSql::HighPrecision);
-    if (!result.exec(query.text)) {
-        return fail(SourceTexts::tr("the query %1 failed: %2")
-                        .arg(query.name, sqlReason(result.lastError())));
-    }
-    const QSqlRecord record = result.record();
-    if (record.isEmpty() || record.count() > MostColumns) {
-        return fail(record.isEmpty()
-                        ? SourceTexts::tr("the query %1 has no columns").arg(query.name)
-                        : SourceTexts::tr("there are more than %1 columns").arg(MostColumns));
-    }
-    const qint64 cap = settings().sizeCap > 0 ? settings().sizeCap : DefaultCap;
     CellWriter writer;
-    while (result.next()) {
-        if (stop() || elapsed.elapsed() > timeout()) {
-            return fail(SourceTexts::tr("the query %1 took longer than %2 seconds")
-                            .arg(query.name)
-                            .arg(timeout() / 1000.0));
-        }
-        if (writer.rowCount() == MostRows) {
-            return fail(SourceTexts::tr("the query %1 has more than %2 rows")
-                            .arg(query.name)
-                            .arg(MostRows));
-        }
-        writer.beginRow();
-        for (int column = 0; column < record.count(); ++column) {
-            const QByteArray text = textOf(result.value(column));
-            const bool isMissing = result.isNull(column);
-            writer.addCell(isMissing ? nullptr : text.constData(),
-                           size_t(isMissing ? 0 : text.size()));
-            *bytes += text.size();
-        }
-        if (*bytes > cap || writer.isFull()) {
-            return fail(SourceTexts::tr("it is larger than %1 bytes").arg(cap));
-        }
-    }
-    if (result.lastError().isValid()) {
-        return fail(SourceTexts::tr("the query %1 failed: %2")
-                        .arg(query.name, sqlReason(result.lastError())));
-    }
     QStringList names;
-    for (int column = 0; column < record.count(); ++column) {
-        names.append(record.fieldName(column));
+    if (result.exec(query.text)) {
+        const QSqlRecord record = result.record();
+        for (int column = 0; column < record.count(); ++column) {
+            names.append(record.fieldName(column));
+        }
+        if (names.isEmpty() || names.size() > MostColumns) {
+            *error = names.isEmpty()
+                         ? SourceTexts::tr("the query %1 has no columns").arg(query.name)
+                         : SourceTexts::tr("there are more than %1 columns").arg(MostColumns);
+        }
     }
-    return DataValue::fromTable(
-        std::make_shared<const CellTable>(uniqueColumns(names), writer.take()));
+    while (error->isEmpty() && result.next()) {
+        addRow(result, names.size(), &writer, bytes);
+        *error = limitFault(query.name, elapsed.elapsed(), writer, *bytes);
+    }
+    if (error->isEmpty() && result.lastError().isValid()) {
+        *error = SourceTexts::tr("the query %1 failed: %2")
+                     .arg(query.name, sqlReason(result.lastError()));
+    }
+    return error->isEmpty() ? DataValue::fromTable(std::make_shared<const CellTable>(
+                                  uniqueColumns(names), writer.take()))
+                            : DataValue();
+}
+
+QString SqlReader::limitFault(const QString &query, qint64 elapsed, const CellWriter &writer,
+                              qint64 bytes) const
+{
+    const qint64 cap = settings().sizeCap > 0 ? settings().sizeCap : DefaultCap;
+    if (stop() || elapsed > timeout()) {
+        return SourceTexts::tr("the query %1 took longer than %2 seconds")
+            .arg(query)
+            .arg(timeout() / 1000.0);
+    }
+    if (writer.rowCount() > MostRows) {
+        return SourceTexts::tr("the query %1 has more than %2 rows").arg(query).arg(MostRows);
+    }
+    return bytes > cap || writer.isFull() ? SourceTexts::tr("it is larger than %1 bytes").arg(cap)
+                                          : QString();
 }
 
 } // namespace sources

@@ -6,6 +6,8 @@
 
 namespace sources {
 
+class CellWriter;
+
 /**
  * Tables of a database: one for each query. The connection is this source's own and stays open as
  * long as it works. An SQLite file is opened for reading only.
@@ -26,6 +28,9 @@ private:
     void disconnectDatabase();
     [[nodiscard]] Reading runAll();
     [[nodiscard]] DataValue run(const NamedText &query, qint64 *bytes, QString *error) const;
+    /** Why no further row may come; empty when one may. */
+    [[nodiscard]] QString limitFault(const QString &query, qint64 elapsed, const CellWriter &writer,
+                                     qint64 bytes) const;
     [[nodiscard]] int timeout() const;
 
     const QString m_connection; ///< The name that QtSql knows it by.

@@ -99,6 +99,8 @@ void TestKeptData::damagedFilesAreNotUsed()
 void TestKeptData::survivesBeingKilled()
 {
     const QByteArray filler(300000, 'x');
+    const QByteArray first = "{\"b\":\"" + filler + "\"}";
+    DataCache(m_settings, m_context).store(data(first), 1);
     for (int round = 0; round < 20; ++round) {
         const pid_t child = fork();
         if (child == 0) {

@@ -37,6 +37,7 @@ void TestSourceList::faults_data()
     };
     row(R"({"name": "n", "file": "a.csv"})", "");
     row(R"({"name": "n", "type": 99})", "");
+    row(R"({"name": "n", "type": 3, "replay": "a"})", "");
     row(R"({"name": 5, "file": "a"})", "line 2, column 11, sources[0].name: it must be a text");
     row(R"({"name": "a:b", "file": "a"})", "line 2, column 11, sources[0].name: a name must not");
     row(R"({"name": "n"})", "line 2, column 2, sources[0].file: it is missing");
