@@ -1,6 +1,5 @@
 #include "floors.h"
 #include "table/tablemarkup.h"
-#include "table/tabletemplate.h"
 
 #include <QDomDocument>
 #include <QTextCursor>
@@ -48,31 +47,7 @@ void unifyWidths(benchmark::State &state)
         {parse, save});
 }
 
-/** The same with the template cut out of the result, as every change of a bound table does it. */
-void unifyAndCut(benchmark::State &state)
-{
-    const QString html = tableHtml(int(state.range(0)), 10);
-    const lctrlsex::TableMarks marks{int(state.range(1)), QStringLiteral("source:list[]"), true,
-                                     true, false};
-    QDomDocument parsed;
-    const Floor parse{"parse", [&html, &parsed] {
-                          benchmark::DoNotOptimize(parsed.setContent(html));
-                      }};
-    floors::besideFloors(state,
-                         [&html, &marks] {
-                             benchmark::DoNotOptimize(lctrlsex::cutTemplate(
-                                 unifyTableColumnWidths(html, marks), marks.tableType, true));
-                         },
-                         {parse});
-}
-
 } // namespace
-
-BENCHMARK(unifyAndCut)
-    ->ArgNames({"rows", "type"})
-    ->ArgsProduct({{100, 1000}, {1, 3}})
-    ->UseManualTime()
-    ->Unit(benchmark::kMicrosecond);
 
 BENCHMARK(unifyWidths)
     ->ArgName("rows")

@@ -28,30 +28,26 @@ const ushort *nextStop(const ushort *at, const ushort *end, quint64 stops)
     return at;
 }
 
-bool isSpace(ushort c)
-{
+// Objects, so that what searches with them is not called for every character.
+constexpr auto isSpace = [](ushort c) {
     return c == ' ' || c == '\n' || c == '\r' || c == '\t';
-}
+};
 
-bool isLetter(ushort c)
-{
+constexpr auto isLetter = [](ushort c) {
     return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z');
-}
+};
 
-bool isDigit(ushort c)
-{
+constexpr auto isDigit = [](ushort c) {
     return c >= '0' && c <= '9';
-}
+};
 
-bool isHexadecimal(ushort c)
-{
+constexpr auto isHexadecimal = [](ushort c) {
     return isDigit(c) || (c >= 'a' && c <= 'f') || (c >= 'A' && c <= 'F');
-}
+};
 
-bool isNamePart(ushort c)
-{
+constexpr auto isNamePart = [](ushort c) {
     return isLetter(c) || isDigit(c) || c == '_' || c == ':' || c == '-' || c == '.';
-}
+};
 
 } // namespace
 

@@ -177,7 +177,7 @@ def replies():
 
 
 def choices():
-    for target, longest in (("storedtext", 400), ("fragmentmerge", 150), ("operations", 300)):
+    for target, longest in (("storedtext", 400), ("fragmentmerge", 150), ("operations", 300), ("tabletemplate", 200)):
         for i in range(60):
             numbers = random.Random(f"{target} {i}")
             size = longest * (i + 1) // 60

@@ -206,13 +206,31 @@ void FieldImages::markDirty(QTextDocument *document, const QVector<Found> &field
     }
 }
 
+bool FieldImages::isAsBefore(const QTextDocument *document, const QMap<QString, QString> &values,
+                             bool antialias) const
+{
+    if (document != m_document || document->revision() != m_revision || antialias != m_antialias ||
+        values != m_values) {
+        return false;
+    }
+    // A document loses all of its images at once.
+    return m_drawn.isEmpty() || holds(*document, m_drawn.cbegin().key(), *m_drawn.cbegin());
+}
+
 bool FieldImages::refresh(QTextDocument *document, const QMap<QString, QString> &values)
 {
     if (document == nullptr) {
         return false;
     }
-    const QVector<Found> fields = fieldsOf(*document);
     const bool antialias = isAntialiased(document->defaultFont());
+    if (isAsBefore(document, values, antialias)) {
+        return false;
+    }
+    m_document = document;
+    m_revision = document->revision();
+    m_values = values;
+    m_antialias = antialias;
+    const QVector<Found> fields = fieldsOf(*document);
     const QSet<QString> changed =
         draw(document, wanted(removed(*document) + fields, values, antialias));
     markDirty(document, fields, changed);

@@ -5,6 +5,7 @@
 #include <QHash>
 #include <QImage>
 #include <QMap>
+#include <QPointer>
 #include <QSet>
 #include <QString>
 #include <QVector>
@@ -53,10 +54,17 @@ private:
                                         const QMap<QString, QString> &values, bool antialias);
     static void markDirty(QTextDocument *document, const QVector<Found> &fields,
                           const QSet<QString> &changed);
+    [[nodiscard]] bool isAsBefore(const QTextDocument *document,
+                                  const QMap<QString, QString> &values, bool antialias) const;
     bool isCurrent(const QTextDocument &document, const QString &name, const Drawn &field) const;
     QSet<QString> draw(QTextDocument *document, QHash<QString, Drawn> fields);
 
     QHash<QString, Drawn> m_drawn;
+    // Of the refresh before.
+    QPointer<QTextDocument> m_document;
+    int m_revision = -1;
+    bool m_antialias = true;
+    QMap<QString, QString> m_values;
 };
 
 } // namespace lctrlsex

@@ -218,11 +218,10 @@ OutlinedHtml unifyAndOutline(const QString &html, const TableMarks &marks)
 {
     std::vector<MarkupEdit> edits;
     EditFinder finder(html, marks, &edits);
-    const bool isFound = finder.find();
-    OutlinedHtml result{html, finder.found()};
-    if (!isFound) {
-        return result;
+    if (!finder.find()) {
+        return {html, findTable(html)};
     }
+    OutlinedHtml result{QString(), finder.found()};
     // Tables inside others end first.
     const auto isBefore = [](const MarkupEdit &left, const MarkupEdit &right) {
         return left.begin < right.begin;
