@@ -148,7 +148,6 @@ def conditions():
         write("conditionexpression", f"wide-{i}", b"w" + text.encode("utf-16-le", "surrogatepass"))
 
 
-<<<<<<< HEAD
 def bindkeys():
     heads = ["", "a", "_1", "\u6e90:\u6570", "s:a.b", "a..b", ".a", "\U00010400", "a.", "a.{b", "a}.{b,c"]
     tails = ["", "[]", "[][]", "[][][]", "[12][]", "[\u0663][]", "[1a][]", "[]\n", "\n\n", ".{a,b}", ".{a.b,}[]",
@@ -159,7 +158,8 @@ def bindkeys():
             write("bindkey", f"keys-{i}-{k}", (head + tail).encode())
     for i, text in enumerate(["a\ud800", "\udc00[]", "a.{\ud83d\ude00}[]", "\0a", "a\u0301[]"]):
         write("bindkey", f"wide-{i}", b"w" + text.encode("utf-16-le", "surrogatepass"))
-=======
+
+
 def replies():
     tables = ["a,b\n1,\"x,\"\"y\"\"\n2\"\n3,\n", "a;b\r\n1,5;2\r\n", "a\tb\n\t2\n", "a|b\n1|2",
               "\ufeffa\n1\n", "a,b\n1\n2,3\n", "a\n1,2\n", "a,,a,a 2\n1,2,3,4\n", "a\n1\0\n", "a,b\n1,\"2",
@@ -173,7 +173,21 @@ def replies():
                "[" * 300, '{"g": [[1, 2], [3]], "r": {"a": {"b": 1}}}', '{"a": 1, "a": 2, "": 3}']
     for i, text in enumerate(objects):
         write("replies", f"json-{i}", bytes([2]) + text.encode())
->>>>>>> 4d085b8 (Document data sources, measure a million rows and feed the readers with whatever comes)
+
+
+def templates():
+    paths = ["s:t", "s:n.m[1][0]", "s:a.b", "n.m[2].k", "s:n.m[]", "s:n.m[1][]", "s:m[][]", "s:r.{a,b.c}[]", "s:r[0].{a}",
+             "s:n.{m}", "s:v[]", "s:t[]", "s:v[9]", "s:v[-1]", "s:v[]x", "s:n..m", "s:.n", ":v[]", "s:r.{}[]", "s:v[]\n"]
+    for i, path in enumerate(paths):
+        for k, tail in enumerate(["", "[]", ".{a,b}[]"]):
+            write("datapath", f"path-{i}-{k}", (path + tail).encode())
+    rows = ['<tr><td width="9">${a}</td><td>x${0}${i}</td></tr>', '<a href="bindStyle;1;n"><b>${a}</b></a>', "${a",
+            '<img src="data://bindKey/s/f.png" title="s:f" alt=""/>', '<table a="${T}"><tr>${T}<td></table>', "<td ${a}>",
+            '<body><table><tr><td>${T}<table></table></table>', "${${a}}", "<!-- ${a} -->${a}", "<style>${a}</style>"]
+    values = ["<b>", "&amp;&#0;", "${a}", "\0\ufffe\u2028", "]]></table>", '" onload="', "\r\n"]
+    for i, row in enumerate(rows):
+        for k, value in enumerate(values):
+            write("templatetext", f"row-{i}-{k}", (row + "\n" + value).encode())
 
 
 def choices():
@@ -190,9 +204,7 @@ markup()
 units()
 records()
 conditions()
-<<<<<<< HEAD
 bindkeys()
-=======
 replies()
->>>>>>> 4d085b8 (Document data sources, measure a million rows and feed the readers with whatever comes)
+templates()
 choices()
