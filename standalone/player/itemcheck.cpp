@@ -135,7 +135,7 @@ private:
                        ItemCheckTexts::tr("use a smaller font or a wider item, or break the line"),
                        [&text] { return ItemCheckTexts::tr("text %1").arg(quoted(text)); });
         }
-        const auto &slices = m_item->slices();
+        const auto slices = m_item->slices();
         const bool isWhole = std::any_of(slices.begin(), slices.end(), [&ink](const auto &slice) {
             return slice.top <= ink.top() + 1 && slice.bottom >= ink.bottom() - 1;
         });
