@@ -2,6 +2,16 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="en">
 <context>
+    <name>BoundPages</name>
+    <message numerus="yes">
+        <source>%n row(s) are higher than a page, the first is row %1</source>
+        <translation>
+            <numerusform>%n row is higher than a page: row %1</numerusform>
+            <numerusform>%n rows are higher than a page, the first is row %1</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>TextEdit</name>
     <message numerus="yes">
         <source>%n cell(s) that were pasted found no place in the table and were left out. Make the table larger first.</source>

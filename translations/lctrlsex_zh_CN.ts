@@ -2,6 +2,55 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="zh_CN">
 <context>
+    <name>BoundPages</name>
+    <message>
+        <source>table</source>
+        <translation>表格</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n row(s) are higher than a page, the first is row %1</source>
+        <translation>
+            <numerusform>%n 行高于一页，第一个是第 %1 行</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>use a smaller font or a higher item</source>
+        <translation>请使用较小的字体或加高节目项</translation>
+    </message>
+    <message>
+        <source>field &quot;%1&quot;</source>
+        <translation>字段“%1”</translation>
+    </message>
+    <message>
+        <source>it leads to no data</source>
+        <translation>它不指向任何数据</translation>
+    </message>
+    <message>
+        <source>conditional style &quot;%1&quot;</source>
+        <translation>条件样式“%1”</translation>
+    </message>
+    <message>
+        <source>there is none of that identifier</source>
+        <translation>没有该标识符的条件样式</translation>
+    </message>
+    <message>
+        <source>choose another style for the text that has it</source>
+        <translation>请为使用它的文本选择其他样式</translation>
+    </message>
+    <message>
+        <source>calculation &quot;%1&quot;</source>
+        <translation>计算“%1”</translation>
+    </message>
+    <message>
+        <source>it has no result: %1</source>
+        <translation>它没有结果：%1</translation>
+    </message>
+    <message>
+        <source>its default is shown; change the step or the data</source>
+        <translation>显示其默认值；请更改步骤或数据</translation>
+    </message>
+</context>
+<context>
     <name>ConditionTexts</name>
     <message>
         <source>&quot;%1&quot;</source>
@@ -435,6 +484,41 @@
     </message>
 </context>
 <context>
+    <name>ItemTemplate</name>
+    <message>
+        <source>table</source>
+        <translation>表格</translation>
+    </message>
+    <message>
+        <source>open the item in the editor and bind its table again</source>
+        <translation>请在编辑器中打开该节目项并重新绑定表格</translation>
+    </message>
+    <message>
+        <source>the place of its rows is not marked in the stored text</source>
+        <translation>存储的文本中没有标出表格行的位置</translation>
+    </message>
+    <message>
+        <source>no row is stored that could be repeated</source>
+        <translation>没有存储可重复的行</translation>
+    </message>
+    <message>
+        <source>the cells stored for it do not make up rows</source>
+        <translation>存储的单元格不能组成行</translation>
+    </message>
+    <message>
+        <source>its key &quot;%1&quot; leads to no data</source>
+        <translation>其键“%1”不指向任何数据</translation>
+    </message>
+    <message>
+        <source>it has room for %1 of %2 columns</source>
+        <translation>它只能容纳 %2 列中的 %1 列</translation>
+    </message>
+    <message>
+        <source>make the table wider or show fewer values</source>
+        <translation>请加宽表格或减少显示的值</translation>
+    </message>
+</context>
+<context>
     <name>Journals</name>
     <message>
         <source>it is not whole: what it holds does not match its checksum</source>
@@ -455,6 +539,21 @@
     <message>
         <source>it is too large</source>
         <translation>文件过大</translation>
+    </message>
+</context>
+<context>
+    <name>KeySuggestion</name>
+    <message>
+        <source>did you mean &quot;%1&quot;?</source>
+        <translation>您是否想用“%1”？</translation>
+    </message>
+    <message>
+        <source>choose a key that the source has</source>
+        <translation>请选择数据源中存在的键</translation>
+    </message>
+    <message>
+        <source>add a source of the name &quot;%1&quot; or choose another key</source>
+        <translation>请添加名为“%1”的数据源或选择其他键</translation>
     </message>
 </context>
 <context>
@@ -752,6 +851,13 @@
     </message>
 </context>
 <context>
+    <name>NoData</name>
+    <message>
+        <source>No data</source>
+        <translation>暂无数据</translation>
+    </message>
+</context>
+<context>
     <name>NodePublisher</name>
     <message>
         <source>The stored document cannot be read: %1</source>
@@ -827,6 +933,13 @@
     <message>
         <source>%1: argument %2, &quot;%3&quot;, is not a whole number or is too large; it counts as 0.</source>
         <translation>%1：第 %2 个参数“%3”不是整数或过大，按 0 处理。</translation>
+    </message>
+</context>
+<context>
+    <name>PageDocuments</name>
+    <message>
+        <source>rows of the table</source>
+        <translation>表格的行</translation>
     </message>
 </context>
 <context>
@@ -1206,6 +1319,18 @@
     <message>
         <source>change the step or delete it</source>
         <translation>请修改或删除该步骤</translation>
+    </message>
+    <message>
+        <source>conditional style %1</source>
+        <translation>条件样式 %1</translation>
+    </message>
+    <message>
+        <source>nothing in the item uses it</source>
+        <translation>节目项中没有内容使用它</translation>
+    </message>
+    <message>
+        <source>give it to a text or delete it</source>
+        <translation>请将其应用于文本或删除</translation>
     </message>
 </context>
 <context>

@@ -45,6 +45,9 @@ QString renderHelp()
         "  --item NAME        only the items of that name, or the one at screen/frame/item;\n"
         "                     may be given several times\n"
         "  --size WxH         draw the items at this size in pixels instead of their own\n"
+        "  --data SOURCE=FILE fill tables and fields with the data of a .csv, .json or .txt file,\n"
+        "                     as if it were the source of that name; may be given several times\n"
+        "  --set KEY=VALUE    the same for a single value, source:key=value; later ones count\n"
         "  --lenient          make the page also when a font or an image is missing, and warn\n"
         "  --json             print a report for programs instead of file names\n"
         "  -q, --quiet        print no file names and no progress\n"
@@ -60,11 +63,16 @@ QString checkHelp()
         "\n"
         "Says what would keep the screen from showing the items as they are meant: fonts that are\n"
         "not installed, characters that no font has, images that cannot be loaded or are larger\n"
-        "than their item, lines that are cut, text in the colour of its ground. Writes nothing.\n"
+        "than their item, lines that are cut, text in the colour of its ground, conditional "
+        "styles\n"
+        "that nothing uses. With --data also keys that lead to nothing, with the nearest one.\n"
+        "Writes nothing.\n"
         "\n"
         "  --item NAME   only the items of that name, or the one at screen/frame/item; may be\n"
         "                given several times\n"
         "  --size WxH    check the items at this size in pixels instead of their own\n"
+        "  --data SOURCE=FILE, --set KEY=VALUE\n"
+        "                check with this data, see pagerender help render\n"
         "  --json        print a report for programs\n"
         "  -q, --quiet   print nothing; the exit status tells\n"
         "\n"
@@ -129,6 +137,8 @@ void addOptions(QCommandLineParser *parser, bool forRender)
     };
     add({QStringLiteral("item")}, QStringLiteral("name"));
     add({QStringLiteral("size")}, QStringLiteral("size"));
+    add({QStringLiteral("data")}, QStringLiteral("data"));
+    add({QStringLiteral("set")}, QStringLiteral("value"));
     add({QStringLiteral("json")});
     add({QStringLiteral("q"), QStringLiteral("quiet")});
     add({QStringLiteral("h"), QStringLiteral("help")});
@@ -170,6 +180,8 @@ CommandLine readCommand(CommandLine::Command command, const QStringList &argumen
     }
     line.programme = parser.positionalArguments().constFirst();
     line.items = parser.values(QStringLiteral("item"));
+    line.dataFiles = parser.values(QStringLiteral("data"));
+    line.settings = parser.values(QStringLiteral("set"));
     line.asJson = parser.isSet(QStringLiteral("json"));
     line.isQuiet = parser.isSet(QStringLiteral("quiet"));
     if (parser.isSet(QStringLiteral("size"))) {

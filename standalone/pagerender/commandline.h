@@ -15,6 +15,8 @@ struct CommandLine
     QString outputFolder;   ///< Render only.
     QStringList items;      ///< Names or places of the items wanted; empty: all.
     QSize size;             ///< In place of every item's own; invalid: their own.
+    QStringList dataFiles;  ///< SOURCE=FILE, each.
+    QStringList settings;   ///< source:key=value, each.
     bool isLenient = false; ///< Render: make pages although something is not as meant.
     bool asJson = false;
     bool isQuiet = false;

@@ -1,5 +1,6 @@
 #include "rendercommand.h"
 
+#include "commanddata.h"
 #include "commandline.h"
 #include "itemcheck.h"
 #include "itemrenderer.h"
@@ -66,8 +67,9 @@ Problems asWarnings(Problems problems)
 class PageWriter
 {
 public:
-    PageWriter(const CommandLine &line, Report *report)
+    PageWriter(const CommandLine &line, const sources::DataSnapshot &data, Report *report)
         : m_line(line)
+        , m_data(data)
         , m_report(report)
     {}
 
@@ -85,17 +87,20 @@ public:
     void write(const player::ProgrammeItem &item, const QString &progress)
     {
         const QString stem = m_names.stemFor(item.node->name());
-        ItemRenderer renderer(item.node, item.place, m_line.size);
+        ItemRenderer renderer(item.node, item.place, m_line.size, m_data);
+        const int pages = renderer.pageCount(); // finds what is wrong with rows, too
+        const Problems found = renderer.problems();
         const bool isHarmless = renderer.hasPages() && m_line.isLenient;
-        m_report->problems(isHarmless ? asWarnings(renderer.problems()) : renderer.problems());
-        if (!renderer.hasPages() || (!m_line.isLenient && !renderer.problems().isEmpty())) {
+        m_report->problems(isHarmless ? asWarnings(found) : found);
+        const bool isFaulty = std::any_of(found.begin(), found.end(), [](const Problem &problem) {
+            return problem.severity == Problem::Error;
+        });
+        if (!renderer.hasPages() || (isFaulty && !m_line.isLenient)) {
             return;
         }
-        for (int i = 0; i < renderer.pageCount(); ++i) {
-            m_report->progress(QStringLiteral("%1, page %2 of %3")
-                                   .arg(progress)
-                                   .arg(i + 1)
-                                   .arg(renderer.pageCount()));
+        for (int i = 0; i < pages; ++i) {
+            m_report->progress(
+                QStringLiteral("%1, page %2 of %3").arg(progress).arg(i + 1).arg(pages));
             const QString number = QStringLiteral("-%1.png").arg(i + 1);
             const QString file = QDir(m_line.outputFolder).filePath(stem + number);
             const QString reason = player::writePageFile(renderer.finishedPage(i), file);
@@ -111,6 +116,7 @@ public:
 
 private:
     const CommandLine &m_line;
+    const sources::DataSnapshot &m_data;
     Report *m_report;
     player::PageNames m_names;
 };
@@ -119,8 +125,9 @@ private:
 
 bool renderProgramme(LControllerNode *programme, const CommandLine &line, Report *report)
 {
-    PageWriter writer(line, report);
-    if (!writer.prepareFolder()) {
+    sources::DataSnapshot data;
+    PageWriter writer(line, data, report);
+    if (!readData(line, &data, report) || !writer.prepareFolder()) {
         return false;
     }
     const QVector<player::ProgrammeItem> items = wantedItems(programme, line, report);
@@ -137,10 +144,15 @@ bool renderProgramme(LControllerNode *programme, const CommandLine &line, Report
 
 bool checkProgramme(LControllerNode *programme, const CommandLine &line, Report *report)
 {
+    sources::DataSnapshot data;
+    if (!readData(line, &data, report)) {
+        return false;
+    }
     const QVector<player::ProgrammeItem> items = wantedItems(programme, line, report);
     for (int i = 0; i < items.size(); ++i) {
         report->progress(QStringLiteral("checking item %1 of %2").arg(i + 1).arg(items.size()));
-        ItemRenderer renderer(items.at(i).node, items.at(i).place, line.size);
+        ItemRenderer renderer(items.at(i).node, items.at(i).place, line.size, data);
+        Q_UNUSED(renderer.pageCount()) // finds what is wrong with rows, too
         report->problems(renderer.problems());
         report->problems(player::checkItem(&renderer));
         report->problems(player::checkRecords(items.at(i).node, items.at(i).place));

@@ -1,10 +1,13 @@
 #include "recordscheck.h"
 
 #include "condition.h"
+#include "documentstorage.h"
 #include "ltexteffectnode.h"
 #include "operationchain.h"
 #include "recordsjson.h"
 #include "shorttext.h"
+#include "table/fieldformat.h"
+#include "templatetext.h"
 
 #include <QCoreApplication>
 
@@ -34,9 +37,11 @@ public:
         ConditionalStyles styles;
         report(stylesFromJson(node.GetSpanConditions(), &styles),
                RecordsCheckTexts::tr("conditional styles"));
+        const QSet<QString> used = usedIds(node);
         for (const DynamicData &source : qAsConst(styles)) {
             for (const FieldConditions &entry : source.items) {
                 checkEntry(entry);
+                checkUse(entry, used);
             }
         }
         QVector<CalculationCondition> calculations;
@@ -62,6 +67,32 @@ private:
                  RecordsCheckTexts::tr("they cannot be read from character %1 on: %2")
                      .arg(QString::number(fault.offset), fault.reason),
                  RecordsCheckTexts::tr("mend them in the programme file or set them anew"));
+        }
+    }
+
+    /** Identifiers of the styles that text and fields of the author's document refer to. */
+    static QSet<QString> usedIds(const LTextEffectNode &node)
+    {
+        const QString stored = node.GetRawHtmlText();
+        const TemplateText text(stored.isEmpty() ? node.GetHtmlText()
+                                                 : decodeDocument(stored).html);
+        QSet<QString> ids;
+        for (const TemplateStyle &style : text.styles()) {
+            ids.insert(style.id);
+        }
+        for (const TemplateImage &image : text.images()) {
+            ids.insert(FieldStyle::fromString(image.style).conditionId);
+        }
+        return ids;
+    }
+
+    void checkUse(const FieldConditions &entry, const QSet<QString> &used)
+    {
+        if (!used.contains(entry.id) || entry.id.isEmpty()) {
+            warn(
+                RecordsCheckTexts::tr("conditional style %1").arg(shortText(entry.name, NameShown)),
+                RecordsCheckTexts::tr("nothing in the item uses it"),
+                RecordsCheckTexts::tr("give it to a text or delete it"));
         }
     }
 

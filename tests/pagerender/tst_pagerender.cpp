@@ -98,6 +98,7 @@ private slots:
     void check_data();
     void check();
     void checksRecords();
+    void fillsFromData();
     void opensNothingOutside();
 };
 
@@ -390,18 +391,21 @@ void TestPagerender::checksRecords()
     const auto said = [](const QString &styles, const QString &calculation) {
         const QJsonObject attributes{{QStringLiteral("SpanConditions"), styles},
                                      {QStringLiteral("Calculation"), calculation}};
-        return pagerender({QStringLiteral("check"), QStringLiteral("-")},
-                          programme({{QStringLiteral("document"), dejavu(QStringLiteral("Fine"))},
-                                     {QStringLiteral("attributes"), attributes}}))
+        return pagerender(
+                   {QStringLiteral("check"), QStringLiteral("-")},
+                   programme({{QStringLiteral("document"),
+                               dejavu(QStringLiteral("<a href=\"bindStyle;1;Storm\">Fine</a>"))},
+                              {QStringLiteral("attributes"), attributes}}))
             .err;
     };
-    QCOMPARE(said(R"([{"name":"Storm","conditions":[{"expression":[">9"]}]}])",
+    QCOMPARE(said(R"([{"id":"1","name":"Storm","conditions":[{"expression":[">9"]}]}])",
                   R"([{"key":"sum","expressions":[{"variableName":"var1","expression":
                      {"func":"+","args":["${weather:wind}","1"]}}]}])"),
              QStringLiteral("nothing to mend\n"));
-    const QString broken = said(R"x([{"name":"Storm","conditions":[{"type":1,"expression":["a(b"]},
+    const QString broken =
+        said(R"x([{"id":"1","name":"Storm","conditions":[{"type":1,"expression":["a(b"]},
                                     {"expression":["(-,3)"]},{}]}])x",
-                                R"([{"key":"sum","expressions":[{"variableName":"var1","expression":
+             R"([{"key":"sum","expressions":[{"variableName":"var1","expression":
                                    {"func":"+","args":["var2","1"]}},{"variableName":"var2",
                                    "expression":{"func":"power","args":[]}}]}])");
     QVERIFY(!broken.contains(QStringLiteral("lctrlsex.")));
@@ -413,11 +417,54 @@ void TestPagerender::checksRecords()
         QVERIFY2(broken.contains(QLatin1String(reason)), qPrintable(broken));
     }
     const QString lines =
-        said(R"([{"name":"a\nb","conditions":[{}]}])",
+        said(R"([{"id":"1","name":"a\nb","conditions":[{}]}])",
              R"([{"key":"c\nd","expressions":[{"expression":{"func":"e\nf"}}]}])");
     QVERIFY2(lines.count(QLatin1Char('\n')) == 2, qPrintable(lines));
     QVERIFY(said(QStringLiteral("[{"), QStringLiteral("[]"))
                 .contains(QStringLiteral("they cannot be read from character 2 on")));
+}
+
+void TestPagerender::fillsFromData()
+{
+    const QString table = QStringLiteral(
+        "<html><body>%1<table border=\"1\" width=\"60\"><tr><td width=\"60\">Head</td></tr>"
+        "%2</table></body></html>");
+    const QString row = QStringLiteral("<tr><td width=\"60\">${name}</td></tr>");
+    const QJsonObject attributes{
+        {QStringLiteral("TableType"), 1},
+        {QStringLiteral("TableRowBindKey"), QStringLiteral("shop:rows.{name,price}[]")},
+        {QStringLiteral("TableRowTemplate"), row},
+        {QStringLiteral("TableRowPlaceHolder"), QStringLiteral("table:1")},
+        {QStringLiteral("StringContent"), table.arg(QString(), QStringLiteral("${table:1}"))}};
+    const QByteArray input = programme({{QStringLiteral("document"), table.arg(QString(), row)},
+                                        {QStringLiteral("attributes"), attributes}});
+    QTemporaryDir folder;
+    QFile csv(folder.filePath(QStringLiteral("a.csv")));
+    QVERIFY(csv.open(QIODevice::WriteOnly));
+    csv.write("name,price\nBread,1\nCheese,2\nWine,3\n");
+    csv.close();
+    const auto run = [&input](const QString &arguments) {
+        return pagerender(arguments.split(QLatin1Char(' ')), input);
+    };
+    const QString render = QStringLiteral("render - -o ") + folder.path();
+    QCOMPARE(run(render).status, 0); // as its author sees it
+    const QString data = QStringLiteral(" --data shop=") + csv.fileName();
+    const Outcome filled = run(render + data);
+    QCOMPARE(filled.err, QString());
+    QCOMPARE(filled.out.count(QLatin1Char('\n')), 4);
+    // Without the source the page says that there is no data, and why.
+    const Outcome missing = run(render + QStringLiteral(" --set shop:row=1"));
+    QCOMPARE(missing.status, 0);
+    QVERIFY2(missing.err.contains(QStringLiteral("leads to no data")), qPrintable(missing.err));
+    const Outcome checked = run(QStringLiteral("check - --data shap=") + csv.fileName());
+    QCOMPARE(checked.status, 1);
+    QVERIFY2(checked.err.contains(QStringLiteral("\"shap:rows.{name,price}[]\"")),
+             qPrintable(checked.err));
+    for (const char *wrong :
+         {" --data shop", " --data =x.csv", " --data shop=x.exe", " --set shop=1",
+          " --data shop=none.csv", " --set shop:a=1 --set shop:a.b=2"}) {
+        QCOMPARE(run(render + QLatin1String(wrong)).status, 1);
+    }
 }
 
 void TestPagerender::opensNothingOutside()
