@@ -68,6 +68,9 @@ void TextEdit::InsertTable()
     if (m_table->insert(record, Qt::Alignment(align))) {
         emit m_view->TableTypeChangeSignal(record);
     }
+    if (isAttached(attachment)) {
+        m_view->setFocus(); // what is typed next belongs into the first cell
+    }
 }
 
 bool TextEdit::moveInTable(bool forward)

@@ -16,6 +16,7 @@ QString overview()
         "usage: pagerender render PROGRAMME -o DIR [options]   write every page as a PNG file\n"
         "       pagerender check PROGRAMME [options]           say what would not be shown as "
         "meant\n"
+        "       pagerender watch PROGRAMME -o DIR [options]    keep the page files up to date\n"
         "       pagerender help COMMAND                        the options of a command\n"
         "       pagerender --version\n"
         "\n"
@@ -45,8 +46,8 @@ QString renderHelp()
         "  --item NAME        only the items of that name, or the one at screen/frame/item;\n"
         "                     may be given several times\n"
         "  --size WxH         draw the items at this size in pixels instead of their own\n"
-        "  --data SOURCE=FILE fill tables and fields with the data of a .csv, .json or .txt file,\n"
-        "                     as if it were the source of that name; may be given several times\n"
+        "  --data SOURCE=FILE take the data of a .csv, .json or .txt file for that of the source\n"
+        "                     of that name; may be given several times\n"
         "  --set KEY=VALUE    the same for a single value, source:key=value; later ones count\n"
         "  --lenient          make the page also when a font or an image is missing, and warn\n"
         "  --json             print a report for programs instead of file names\n"
@@ -65,7 +66,7 @@ QString checkHelp()
         "not installed, characters that no font has, images that cannot be loaded or are larger\n"
         "than their item, lines that are cut, text in the colour of its ground, conditional "
         "styles\n"
-        "that nothing uses. With --data also keys that lead to nothing, with the nearest one.\n"
+        "that nothing uses, sources that fail, keys that lead to nothing, with the nearest one.\n"
         "Writes nothing.\n"
         "\n"
         "  --item NAME   only the items of that name, or the one at screen/frame/item; may be\n"
@@ -77,6 +78,20 @@ QString checkHelp()
         "  -q, --quiet   print nothing; the exit status tells\n"
         "\n"
         "The exit status is 0 when nothing was found and 1 when something was.\n");
+}
+
+QString watchHelp()
+{
+    return QStringLiteral(
+        "usage: pagerender watch PROGRAMME -o DIR [options]\n"
+        "\n"
+        "Writes the pages of every text item, as render does, and writes those of an item anew\n"
+        "whenever data that it shows changes, or the programme file. Pages that look as before\n"
+        "are left alone, files of pages that are no more are removed; every file is whole at any\n"
+        "moment. Runs until it is ended.\n"
+        "\n"
+        "  -o, --output, --item, --size, --data, --set, --lenient, -q, --quiet\n"
+        "                as of render, see pagerender help render\n");
 }
 
 CommandLine mistake(const QString &text)
@@ -104,6 +119,9 @@ CommandLine helpFor(const QString &topic)
     }
     if (topic == QLatin1String("check")) {
         return answer(CommandLine::Help, checkHelp());
+    }
+    if (topic == QLatin1String("watch")) {
+        return answer(CommandLine::Help, watchHelp());
     }
     return mistake(
         QStringLiteral("there is no command \"%1\"; pagerender --help lists them").arg(topic));
@@ -161,13 +179,15 @@ QString programmeProblem(const QStringList &files)
 
 CommandLine readCommand(CommandLine::Command command, const QStringList &arguments)
 {
-    const bool forRender = command == CommandLine::Render;
+    const bool forRender = command != CommandLine::Check;
     QCommandLineParser parser;
     addOptions(&parser, forRender);
     // The parser takes the first argument for the program's name.
     const bool parsed = parser.parse(QStringList(QStringLiteral("pagerender")) + arguments);
     if (parser.isSet(QStringLiteral("help"))) {
-        return answer(CommandLine::Help, forRender ? renderHelp() : checkHelp());
+        return answer(CommandLine::Help, command == CommandLine::Watch ? watchHelp()
+                                         : forRender                   ? renderHelp()
+                                                                       : checkHelp());
     }
     if (!parsed) {
         return mistake(parser.errorText());
@@ -184,6 +204,10 @@ CommandLine readCommand(CommandLine::Command command, const QStringList &argumen
     line.settings = parser.values(QStringLiteral("set"));
     line.asJson = parser.isSet(QStringLiteral("json"));
     line.isQuiet = parser.isSet(QStringLiteral("quiet"));
+    if (command == CommandLine::Watch && (line.asJson || line.programme == QLatin1String("-"))) {
+        return mistake(line.asJson ? QStringLiteral("watch never ends, so it has no --json report")
+                                   : QStringLiteral("standard input cannot be watched"));
+    }
     if (parser.isSet(QStringLiteral("size"))) {
         const QString error = readSize(parser.value(QStringLiteral("size")), &line.size);
         if (!error.isEmpty()) {
@@ -207,7 +231,7 @@ CommandLine readCommandLine(const QStringList &arguments)
     const QString command = arguments.value(0);
     if (command.isEmpty()) {
         return mistake(
-            QStringLiteral("say what to do: render or check; pagerender --help explains"));
+            QStringLiteral("say what to do: render, check or watch; pagerender --help explains"));
     }
     if (command == QLatin1String("--help") || command == QLatin1String("-h")) {
         return helpFor(QString());
@@ -220,6 +244,9 @@ CommandLine readCommandLine(const QStringList &arguments)
     }
     if (command == QLatin1String("render")) {
         return readCommand(CommandLine::Render, arguments.mid(1));
+    }
+    if (command == QLatin1String("watch")) {
+        return readCommand(CommandLine::Watch, arguments.mid(1));
     }
     if (command == QLatin1String("check")) {
         return readCommand(CommandLine::Check, arguments.mid(1));

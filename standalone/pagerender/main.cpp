@@ -3,6 +3,7 @@
 #include "programmefile.h"
 #include "rendercommand.h"
 #include "report.h"
+#include "watchcommand.h"
 
 #include <QGuiApplication>
 
@@ -50,6 +51,9 @@ void showOwnMessages(QtMsgType type, const QMessageLogContext &context, const QS
 int run(const CommandLine &line)
 {
     Report report(line.programme, line.asJson, line.isQuiet, messages);
+    if (line.command == CommandLine::Watch) {
+        return watchProgramme(line, &report) ? Done : Failed;
+    }
     const ReadProgramme read = loadProgramme(line.programme);
     bool isDone = false;
     if (read.controller == nullptr) {
@@ -84,6 +88,7 @@ int main(int argc, char **argv)
         return Misused;
     case CommandLine::Render:
     case CommandLine::Check:
+    case CommandLine::Watch:
         break;
     }
     // Pages are the same with and without a display, so none is asked for.

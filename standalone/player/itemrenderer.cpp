@@ -157,6 +157,11 @@ bool ItemRenderer::hasPages() const
     return m_isBound || !m_slices.isEmpty();
 }
 
+bool ItemRenderer::hasPage(int index) const
+{
+    return index >= 0 && (m_isBound ? m_bound->hasPage(index) : index < m_slices.size());
+}
+
 int ItemRenderer::pageCount() const
 {
     return m_isBound ? m_bound->pageCount() : m_slices.size();

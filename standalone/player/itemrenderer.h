@@ -42,6 +42,8 @@ public:
 
     /** Whether there are pages: the stored text could be read and the size is a page size. */
     [[nodiscard]] bool hasPages() const;
+    /** Whether page @p index, from 0, exists; seeks page breaks no further than there. */
+    [[nodiscard]] bool hasPage(int index) const;
     /** Of a bound table with many rows this seeks all of its page breaks. */
     [[nodiscard]] int pageCount() const;
     [[nodiscard]] QSize size() const { return m_style.size; }

@@ -33,7 +33,7 @@ MainWindow::MainWindow(const LoadedPlugin &plugin, const FontFolder::Result &fon
     : QMainWindow(parent)
     , m_document(new ProgrammeDocument(this))
     , m_live(new LiveData(m_document, this))
-    , m_pages(new ItemPages(m_document, this))
+    , m_pages(new ItemPages(m_document, m_live, this))
     , m_autosave(new Autosave(m_document, this))
     , m_recent(new RecentFiles(this))
     , m_model(new ProgrammeTreeModel(m_document, this))

@@ -2,6 +2,7 @@
 
 #include "itemcheck.h"
 #include "itemrenderer.h"
+#include "livedata.h"
 #include "ltexteffectnode.h"
 #include "ltranslation.h"
 #include "pagefiles.h"
@@ -12,12 +13,19 @@
 #include <QElapsedTimer>
 #include <QSet>
 
+#include <algorithm>
+#include <utility>
+
 namespace workbench {
 
 namespace {
 
 constexpr int SettleTime = 250;
 constexpr int LongestSettleTime = 2000;
+/** What changes within this time is shown at once together. */
+constexpr int FreshTime = 15;
+/** The longest that counting pages may keep the window waiting. */
+constexpr int CountTime = 6;
 constexpr int CacheBytes = 64 * 1024 * 1024;
 // A renderer holds a document that is laid out.
 constexpr int MostRenderers = 8;
@@ -59,15 +67,22 @@ bool isSelfOrBelow(const LNode *node, const LNode *above)
 
 } // namespace
 
-ItemPages::ItemPages(ProgrammeDocument *document, QObject *parent)
+ItemPages::ItemPages(ProgrammeDocument *document, LiveData *data, QObject *parent)
     : QObject(parent)
     , m_document(document)
+    , m_data(data)
     , m_pages(CacheBytes)
     , m_files(new PageFiles)
 {
     m_settle.setSingleShot(true);
     m_settle.setInterval(SettleTime);
     connect(&m_settle, &QTimer::timeout, this, &ItemPages::announce);
+    m_fresh.setSingleShot(true);
+    m_fresh.setInterval(FreshTime);
+    connect(&m_fresh, &QTimer::timeout, this, &ItemPages::announceData);
+    m_counting.setInterval(0);
+    connect(&m_counting, &QTimer::timeout, this, &ItemPages::countOn);
+    connect(data->manager(), &sources::SourceManager::changed, this, &ItemPages::onDataChanged);
     connect(LTranslation::instance(), &LTranslation::LanguageChanged, this,
             &ItemPages::retranslate);
     const TreeWatch *const tree = document->tree();
@@ -124,6 +139,7 @@ void ItemPages::invalidate(Item *item)
 {
     item->renderer.reset();
     item->generation = 0;
+    item->isCounted = false;
     item->isChanged = true;
     m_recent.removeAll(item->node.data());
     m_settle.start();
@@ -164,6 +180,82 @@ void ItemPages::announce()
     }
 }
 
+/** New data is shown at once, and the files of the pages before stay until there are others. */
+void ItemPages::onDataChanged(const QStringList &names)
+{
+    for (Item &item : m_items) {
+        const bool isConcerned =
+            std::any_of(names.begin(), names.end(),
+                        [&item](const QString &name) { return item.sources.contains(name); });
+        // What was never made, or before there was any data, may show anything.
+        if (isConcerned || item.generation == 0) {
+            item.renderer.reset();
+            item.generation = 0;
+            item.isCounted = false;
+            item.isNew = true;
+            m_recent.removeAll(item.node.data());
+        }
+    }
+    if (!m_fresh.isActive()) {
+        m_fresh.start();
+    }
+}
+
+void ItemPages::announceData()
+{
+    QVector<QPointer<LTextEffectNode>> changed;
+    for (Item &item : m_items) {
+        if (std::exchange(item.isNew, false) && !item.isChanged) {
+            changed.append(item.node);
+        }
+    }
+    if (m_watched && changed.contains(m_watched)) {
+        publish();
+    }
+    for (const QPointer<LTextEffectNode> &node : qAsConst(changed)) {
+        if (node) {
+            emit pagesChanged(node);
+        }
+    }
+}
+
+/** Counts on for a moment; a later turn of the event loop goes on where it ends. */
+void ItemPages::count(Item *item)
+{
+    QElapsedTimer timer;
+    timer.start();
+    while (!item->isCounted && (item->counted == 0 || timer.elapsed() < CountTime)) {
+        item->isCounted = !item->renderer->hasPage(item->counted);
+        item->counted += item->isCounted ? 0 : 1;
+    }
+    if (!item->isCounted) {
+        m_counting.start();
+    }
+}
+
+void ItemPages::countOn()
+{
+    m_counting.stop();
+    QVector<QPointer<LTextEffectNode>> counted;
+    for (Item &item : m_items) {
+        if (item.renderer && !item.isCounted) {
+            count(&item);
+            if (item.isCounted) {
+                counted.append(item.node);
+            }
+        }
+    }
+    for (const QPointer<LTextEffectNode> &node : qAsConst(counted)) {
+        if (node && node == m_watched) {
+            node->SetPageCount(m_items[node].counted);
+            node->PageChanged();
+        }
+        if (node) {
+            emit pagesChanged(node);
+        }
+    }
+}
+
 void ItemPages::publish()
 {
     const QPointer<LTextEffectNode> node = m_watched;
@@ -173,7 +265,7 @@ void ItemPages::publish()
     // Who types a very long text is not stopped at every breath by its being laid out.
     m_settle.setInterval(qBound(SettleTime, int(timer.elapsed()) * 4, LongestSettleTime));
     const std::shared_ptr<player::ItemRenderer> pages = m_items[node].renderer;
-    node->SetPageCount(pages ? pages->pageCount() : 0);
+    node->SetPageCount(pageCount(node));
     node->PageChanged();
     // Who was told may have changed the node.
     if (node && node == m_watched && pages && m_items.value(node).renderer == pages) {
@@ -199,10 +291,19 @@ player::ItemRenderer *ItemPages::renderer(LTextEffectNode *node)
     }
     Item &item = itemOf(node);
     if (!item.renderer) {
-        item.renderer = std::make_shared<player::ItemRenderer>(node, placeOf(node));
+        item.renderer = std::make_shared<player::ItemRenderer>(node, placeOf(node), QSize(),
+                                                               m_data->snapshot());
         if (item.generation == 0) {
             item.generation = m_nextGeneration++;
         }
+        item.sources.clear();
+        for (const sources::SourceSettings &source : m_data->sources()) {
+            if (item.renderer->dependsOn(source.name)) {
+                item.sources.insert(source.name);
+            }
+        }
+        item.counted = 0;
+        item.isCounted = false;
     }
     m_recent.removeAll(node);
     m_recent.append(node);
@@ -229,8 +330,14 @@ QImage ItemPages::page(LTextEffectNode *node, int index)
 
 int ItemPages::pageCount(LTextEffectNode *node)
 {
-    const player::ItemRenderer *const pages = renderer(node);
-    return pages ? pages->pageCount() : 0;
+    if (!renderer(node)) {
+        return 0;
+    }
+    Item &item = m_items[node];
+    if (!item.isCounted && item.counted == 0) {
+        count(&item);
+    }
+    return item.counted;
 }
 
 player::Problems ItemPages::problems(LTextEffectNode *node)

@@ -8,6 +8,7 @@
 #include <QObject>
 #include <QPair>
 #include <QPointer>
+#include <QSet>
 #include <QTimer>
 
 #include <memory>
@@ -21,21 +22,23 @@ class ItemRenderer;
 
 namespace workbench {
 
+class LiveData;
 class PageFiles;
 class ProgrammeDocument;
 
 /**
  * The pages of the document's text items, as the player makes them.
  *
- * What was made is kept until something that shows changes: the item's text, look or size, or the
- * size of what is above it. Null nodes and those outside the document have no pages. GUI thread.
+ * What was made is kept until something that shows changes: the item's text, look or size, the
+ * size of what is above it, or data that it shows, which is followed at once. Null nodes and those
+ * outside the document have no pages. GUI thread.
  */
 class ItemPages : public QObject
 {
     Q_OBJECT
 
 public:
-    explicit ItemPages(ProgrammeDocument *document, QObject *parent = nullptr);
+    ItemPages(ProgrammeDocument *document, LiveData *data, QObject *parent = nullptr);
     ~ItemPages() override;
 
     /**
@@ -48,7 +51,10 @@ public:
 
     /** Page @p index, from 0, as the screen shows it; null if there is none. */
     [[nodiscard]] QImage page(LTextEffectNode *node, int index);
-    /** 0 when no page can be made. */
+    /**
+     * 0 when no page can be made. Of a table with very many rows the pages found until now, which
+     * grow, announced by pagesChanged(), while the event loop runs.
+     */
     [[nodiscard]] int pageCount(LTextEffectNode *node);
     /** Why the item is not shown as meant. */
     [[nodiscard]] player::Problems problems(LTextEffectNode *node);
@@ -63,7 +69,11 @@ private:
         QPointer<LTextEffectNode> node;
         std::shared_ptr<player::ItemRenderer> renderer; ///< Null when it must be made.
         quint64 generation = 0;                         ///< Another one for other pages.
+        QSet<QString> sources;                          ///< Whose data it shows.
+        int counted = 0;                                ///< Pages found until now.
+        bool isCounted = false;                         ///< There are no more.
         bool isChanged = false;                         ///< pagesChanged() is due.
+        bool isNew = false;                             ///< The same, for the sake of new data.
     };
 
     void onAttributeChanged(LNode *node, const QString &key);
@@ -72,17 +82,24 @@ private:
     Item &itemOf(LTextEffectNode *node);
     void forget(LNode *node);
     void announce();
+    void onDataChanged(const QStringList &names);
+    void announceData();
+    void count(Item *item);
+    void countOn();
     void publish();
     void retranslate();
     player::ItemRenderer *renderer(LTextEffectNode *node);
 
     ProgrammeDocument *const m_document;
+    LiveData *const m_data;
     QHash<const LNode *, Item> m_items;
     QVector<const LNode *> m_recent;             ///< With a renderer, the one used last at the end.
     QCache<QPair<quint64, int>, QImage> m_pages; ///< By generation and index; the cost is bytes.
     QPointer<LTextEffectNode> m_watched;
     std::unique_ptr<PageFiles> m_files;
     QTimer m_settle;
+    QTimer m_fresh;    ///< Until new data is announced.
+    QTimer m_counting; ///< While there are pages to be counted.
     quint64 m_nextGeneration = 1;
 };
 

@@ -77,7 +77,7 @@ void PageFiles::clear()
 void PageFiles::writeNext()
 {
     const int index = m_files.size();
-    if (!m_node || !m_renderer || index >= qMin(m_renderer->pageCount(), MostFiles)) {
+    if (!m_node || !m_renderer || index >= MostFiles || !m_renderer->hasPage(index)) {
         m_timer.stop();
         m_renderer.reset();
         return;
