@@ -15,8 +15,8 @@ namespace sources {
 namespace {
 
 constexpr int Version = 1;
-constexpr qint64 MostBytes = 16 * 1024 * 1024; ///< Of data that is kept.
-constexpr qint64 LargestFile = 256 * 1024 * 1024;
+constexpr qint64 MostBytes = 16LL * 1024 * 1024; ///< Of data that is kept.
+constexpr qint64 LargestFile = 256LL * 1024 * 1024;
 constexpr int LeastPause = 60000; ///< Milliseconds between two writings, for the sake of disks.
 
 QByteArray digest(const QByteArray &bytes)

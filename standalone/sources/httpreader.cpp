@@ -11,7 +11,7 @@ namespace sources {
 
 namespace {
 
-constexpr qint64 DefaultCap = 16 * 1024 * 1024;
+constexpr qint64 DefaultCap = 16LL * 1024 * 1024;
 constexpr int DefaultTimeout = 30000;
 constexpr int MostRedirections = 5;
 constexpr int LongestRetryAfter = 3600 * 1000;

@@ -116,7 +116,7 @@ int ReplayReader::nextInterval() const
     }
     const int end = m_lines.indexOf('\n', m_at);
     const qint64 next = timeOf(parseJson(m_lines.mid(m_at, end - m_at)).value);
-    return int(qBound<qint64>(0, next - m_firstTime - m_playing.elapsed(), 24 * 3600 * 1000));
+    return int(qBound<qint64>(0, next - m_firstTime - m_playing.elapsed(), 24LL * 3600 * 1000));
 }
 
 } // namespace sources

@@ -18,7 +18,7 @@ namespace sources {
 namespace {
 
 const QString Sources = QStringLiteral("sources");
-constexpr qint64 LargestList = 16 * 1024 * 1024;
+constexpr qint64 LargestList = 16LL * 1024 * 1024;
 
 ProgrammeError errorOf(const SettingsFault &fault, const QByteArray &bytes)
 {
