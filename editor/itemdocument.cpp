@@ -2,6 +2,7 @@
 
 #include "behindtable.h"
 #include "rasterimage.h"
+#include "table/fieldformat.h"
 
 #include <QFile>
 #include <QFont>
@@ -41,6 +42,9 @@ void ItemDocument::loadItem(const QString &html, const TextSettings &settings)
     preparePage(this, settings);
     setHtml(html);
     removeUnwrittenBlank(this, html);
+    if (html.contains(QLatin1String("data://bindKey/"))) {
+        alignFields(this);
+    }
     pointsToPixels(this);
     applyLetterSpacing(this, settings);
 }

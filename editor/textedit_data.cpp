@@ -192,6 +192,10 @@ void TextEdit::UpdateBindKeys()
 {
     if (m_fields->refresh(m_view->document())) {
         m_publisher->invalidateImages();
-        redraw();
+        m_publisher->forceRedraw();
+        // What was edited is pushed when all of the edit is done: a drop is still in the midst.
+        if (!m_publisher->isEdited()) {
+            TextDrawImage();
+        }
     }
 }

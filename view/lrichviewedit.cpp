@@ -10,6 +10,7 @@
 #include "pagelines.h"
 #include "pastedtext.h"
 #include "table/fieldclipboard.h"
+#include "table/fieldformat.h"
 #include "table/tableground.h"
 #include "viewmenu.h"
 
@@ -74,6 +75,9 @@ void LRichViewEdit::load(const QString &html, const lctrlsex::TextSettings &sett
     setHtml(html);
     lctrlsex::removeUnwrittenBlank(m_document, html);
     lctrlsex::pixelsToPoints(m_document);
+    if (html.contains(QLatin1String("data://bindKey/"))) {
+        lctrlsex::alignFields(m_document);
+    }
     setTextCursor(QTextCursor(m_document)); // one that has the format of the text
     lctrlsex::applyLetterSpacing(m_document, settings);
     lctrlsex::smartMerge(m_document); // here it is no step of the user's

@@ -50,13 +50,8 @@ TextWithFields textOf(const QTextDocument &document)
 
 QTextImageFormat imageOf(const TextWithFields::Field &field)
 {
-    const QString key = storableText(field.key, true);
-    QTextImageFormat format;
-    format.setName(fieldImageName(key));
-    format.setProperty(FieldKeyProperty, key);
-    format.setProperty(FieldStyleProperty,
-                       FieldStyle::fromString(storableText(field.style, true)).toString());
-    return format;
+    return fieldFormat(storableText(field.key, true),
+                       FieldStyle::fromString(storableText(field.style, true)));
 }
 
 } // namespace

@@ -1,7 +1,11 @@
 #include "fieldformat.h"
 
+#include <QFont>
 #include <QStringList>
+#include <QTextBlock>
 #include <QTextCursor>
+#include <QTextDocument>
+#include <QVector>
 
 namespace lctrlsex {
 
@@ -96,21 +100,70 @@ bool isField(const QTextCharFormat &format)
            format.toImageFormat().name().contains(namePrefix());
 }
 
-QTextImageFormat fieldFormat(const QString &qualifiedKey, const TypingStyle &style)
+int fieldPixelSize(const TypingStyle &style)
 {
-    FieldStyle fieldStyle;
-    fieldStyle.text = style;
+    constexpr int largest = 1000;
+    return qMin(style.effectiveSize(), largest);
+}
+
+namespace {
+
+/** The layout asks the font of such an image how much of it is below the line. */
+void setOnBaseline(QTextCharFormat *format, const TypingStyle &style)
+{
+    QFont font(style.family);
+    font.setPixelSize(fieldPixelSize(style));
+    format->setFont(font, QTextCharFormat::FontPropertiesSpecifiedOnly);
+    format->setVerticalAlignment(QTextCharFormat::AlignBaseline);
+}
+
+} // namespace
+
+void alignFields(QTextDocument *document)
+{
+    struct Field
+    {
+        int position;
+        int length;
+        QTextCharFormat format;
+    };
+    QVector<Field> fields;
+    for (QTextBlock block = document->begin(); block.isValid(); block = block.next()) {
+        for (auto it = block.begin(); !it.atEnd(); ++it) {
+            if (isField(it.fragment().charFormat())) {
+                const QTextFragment fragment = it.fragment();
+                fields.append({fragment.position(), fragment.length(), fragment.charFormat()});
+            }
+        }
+    }
+    QTextCursor cursor(document);
+    cursor.beginEditBlock();
+    for (Field &field : fields) {
+        const QString style = field.format.stringProperty(FieldStyleProperty);
+        setOnBaseline(&field.format, FieldStyle::fromString(style).text);
+        cursor.setPosition(field.position);
+        cursor.setPosition(field.position + field.length, QTextCursor::KeepAnchor);
+        cursor.setCharFormat(field.format);
+    }
+    cursor.endEditBlock();
+}
+
+QTextImageFormat fieldFormat(const QString &qualifiedKey, const FieldStyle &style)
+{
     QTextImageFormat format;
     format.setName(fieldImageName(qualifiedKey));
     format.setProperty(FieldKeyProperty, qualifiedKey);
-    format.setProperty(FieldStyleProperty, fieldStyle.toString());
+    format.setProperty(FieldStyleProperty, style.toString());
+    setOnBaseline(&format, style.text);
     return format;
 }
 
 void insertField(QTextCursor &cursor, const QString &qualifiedKey, const TypingStyle &style)
 {
     cursor.beginEditBlock(); // a merge can join no other step
-    cursor.insertImage(fieldFormat(qualifiedKey, style));
+    FieldStyle fieldStyle;
+    fieldStyle.text = style;
+    cursor.insertImage(fieldFormat(qualifiedKey, fieldStyle));
     cursor.endEditBlock();
     cursor.setCharFormat(style.toFormat());
 }

@@ -7,6 +7,7 @@
 #include <QTextImageFormat>
 
 class QTextCursor;
+class QTextDocument;
 
 namespace lctrlsex {
 
@@ -43,8 +44,15 @@ struct FieldStyle
 
 /** Whether @p format is the image of a bound field. */
 [[nodiscard]] bool isField(const QTextCharFormat &format);
+/** Height in pixels of the letters of a field. */
+[[nodiscard]] int fieldPixelSize(const TypingStyle &style);
+/**
+ * Makes the fields of @p document stand on the line that the text beside them is written on; to be
+ * called after its HTML is set, which cannot say so.
+ */
+void alignFields(QTextDocument *document);
 /** The image that stands for a field of @p qualifiedKey, to look like @p style. */
-[[nodiscard]] QTextImageFormat fieldFormat(const QString &qualifiedKey, const TypingStyle &style);
+[[nodiscard]] QTextImageFormat fieldFormat(const QString &qualifiedKey, const FieldStyle &style);
 
 /** Replaces the selection of @p cursor by a field; text typed next takes @p style. */
 void insertField(QTextCursor &cursor, const QString &qualifiedKey, const TypingStyle &style);

@@ -22,7 +22,6 @@ struct FieldImages::Found
 namespace {
 
 constexpr int MostCharacters = 1000;
-constexpr int LargestFontSize = 1000;
 constexpr int WidestImage = 16384;
 constexpr int MostPixels = 8 * 1000 * 1000;
 constexpr qreal DimmedOpacity = 0.5;
@@ -48,7 +47,7 @@ QString oneLine(const QString &text)
 QFont fontOf(const TypingStyle &style, bool antialias)
 {
     QFont font(style.family);
-    font.setPixelSize(qMin(style.effectiveSize(), LargestFontSize));
+    font.setPixelSize(fieldPixelSize(style));
     font.setItalic(style.italic);
     font.setUnderline(style.underline);
     font.setWeight(style.bold ? QFont::Bold : QFont::Normal);
@@ -58,16 +57,11 @@ QFont fontOf(const TypingStyle &style, bool antialias)
     return font;
 }
 
-/**
- * The size of a line of text. An image stands on the line of writing, so what letters do not need
- * below it is left away: numbers and capitals line up with the text beside them.
- */
-QSize lineSize(const QString &line, const QFontMetrics &metrics, bool isUnderlined)
+/** The size of a line of text, as high as its font whatever letters are in it. */
+QSize lineSize(const QString &line, const QFontMetrics &metrics)
 {
     const QRect ink = metrics.tightBoundingRect(line);
-    const int below =
-        isUnderlined ? metrics.descent() : qBound(0, ink.bottom() + 1, metrics.descent());
-    const int height = qMax(1, metrics.ascent() + below);
+    const int height = qMax(1, metrics.ascent() + metrics.descent());
     const int width = qMax(metrics.horizontalAdvance(line), ink.right() + 1);
     return {qBound(1, width, qMin(WidestImage, MostPixels / height)), height};
 }
@@ -79,8 +73,7 @@ QImage drawField(const QString &text, const FieldStyle &style, bool isDimmed, bo
     const QString line = oneLine(text);
     const QFont font = fontOf(style.text, antialias);
     const QFontMetrics metrics(font);
-    QImage image(lineSize(line, metrics, style.text.underline),
-                 QImage::Format_ARGB32_Premultiplied);
+    QImage image(lineSize(line, metrics), QImage::Format_ARGB32_Premultiplied);
     if (image.isNull()) {
         return image;
     }

@@ -1,9 +1,11 @@
 #include "datasourceconfigmanager.h"
+#include "fielddrag.h"
 #include "ltexteffectnode.h"
 #include "textedit.h"
 
 #include <QAction>
 #include <QClipboard>
+#include <QDropEvent>
 #include <QMimeData>
 #include <QSignalSpy>
 #include <QTextBlock>
@@ -45,6 +47,7 @@ private slots:
     void templatesFollowUndo();
     void commandsOfTheInterface();
     void fieldsSurvive();
+    void droppedFieldIsStored();
 
 private:
     void open(const QString &html);
@@ -327,6 +330,22 @@ void TestTableBinding::fieldsSurvive()
     QGuiApplication::clipboard()->setMimeData(foreign);
     m_editor->PasteAction();
     QCOMPARE(fieldsIn(*m_view->document()), once + " <b>");
+}
+
+/** Qt keeps a drop in one step, in the midst of which the document tells nobody of it. */
+void TestTableBinding::droppedFieldIsStored()
+{
+    DataSourceConfig config;
+    config.sources = {{QStringLiteral("s"), DataSourceEntry::JsonFile, true, {}}};
+    config.sources[0].keys = {{QStringLiteral("wind"), DataSourceKey::Text, QStringLiteral("7")}};
+    manager()->SetConfig(config);
+    open(QStringLiteral("<p>wind </p>"));
+    QMimeData data;
+    data.setData(FieldDrag::FieldFormat, "s:wind");
+    QDropEvent drop(m_view->viewport()->rect().center(), Qt::CopyAction, &data, Qt::LeftButton,
+                    Qt::NoModifier);
+    QCoreApplication::sendEvent(m_view->viewport(), &drop);
+    QTRY_VERIFY(QByteArray::fromBase64(m_node->GetRawHtmlText().toLatin1()).contains("s:wind"));
 }
 
 QTEST_MAIN(TestTableBinding)

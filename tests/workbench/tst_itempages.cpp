@@ -2,6 +2,7 @@
 #include "itempages.h"
 #include "itemrenderer.h"
 #include "lframenode.h"
+#include "livedata.h"
 #include "lscreennode.h"
 #include "ltexteffectnode.h"
 #include "programmedocument.h"
@@ -57,7 +58,8 @@ void TestItemPages::pagesAreThePlayers()
     ProgrammeDocument document;
     QVERIFY(!document.open(QStringLiteral(LCTRLSEX_SOURCE_DIR "/examples/demo.programme.json"))
                  .isSet());
-    ItemPages pages(&document);
+    LiveData data(&document);
+    ItemPages pages(&document, &data);
     for (const player::ProgrammeItem &item : player::programmeItems(document.controller())) {
         player::ItemRenderer played(item.node, item.place);
         QCOMPARE(pages.pageCount(item.node), played.pageCount());
@@ -90,7 +92,8 @@ void TestItemPages::pagesAreThePlayers()
 void TestItemPages::filesGoAtOnceAndComeBack()
 {
     ProgrammeDocument document;
-    ItemPages pages(&document);
+    LiveData data(&document);
+    ItemPages pages(&document, &data);
     LTextEffectNode *const item = firstItem(document);
     write(item, 12);
     pages.watch(item);
@@ -130,7 +133,8 @@ void TestItemPages::filesGoAtOnceAndComeBack()
 void TestItemPages::filesAreBounded()
 {
     ProgrammeDocument document;
-    ItemPages pages(&document);
+    LiveData data(&document);
+    ItemPages pages(&document, &data);
     LTextEffectNode *const item = firstItem(document);
     item->SetSize(QSize(40, 16));
     write(item, 600);
@@ -155,7 +159,8 @@ void TestItemPages::filesAreBounded()
 void TestItemPages::nodesComeAndGo()
 {
     ProgrammeDocument document;
-    ItemPages pages(&document);
+    LiveData data(&document);
+    ItemPages pages(&document, &data);
     LTextEffectNode *const item = firstItem(document);
     LNode *const frame = item->ParentNode();
     pages.watch(item);
@@ -189,7 +194,8 @@ void TestItemPages::folderIsTidied()
     QVERIFY(QDir().mkpath(stale) && QDir().mkpath(all + QStringLiteral("1")));
     {
         ProgrammeDocument document;
-        ItemPages pages(&document);
+        LiveData data(&document);
+        ItemPages pages(&document, &data);
         pages.watch(firstItem(document));
         QTRY_COMPARE(QDir(running).entryList(QDir::Files).size(), 1);
         QVERIFY(!QFileInfo::exists(stale));
