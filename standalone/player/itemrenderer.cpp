@@ -59,8 +59,9 @@ bool ItemRenderer::loadBound(const LTextEffectNode &node)
         return false;
     }
     m_bound = std::make_unique<BoundPages>(storedItemOf(&node), m_data, m_style);
-    m_isBound = m_bound->state() == ItemTemplate::Bound;
-    return m_isBound && !m_bound->page(0).isNull();
+    // Without memory for its first page the table is left to what shows other items.
+    m_isBound = m_bound->state() == ItemTemplate::Bound && !m_bound->page(0).isNull();
+    return m_isBound;
 }
 
 bool ItemRenderer::load(const LTextEffectNode &node)
