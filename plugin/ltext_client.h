@@ -183,6 +183,7 @@ private:
     bool RegisterFields();
     /** Key of the table as its type has it; empty when it is unbound. */
     [[nodiscard]] QString BoundField();
+    void ApplyBoundField();
     void FillFieldChooser();
 
     Q_DISABLE_COPY(LTextClient)

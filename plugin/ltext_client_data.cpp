@@ -120,7 +120,7 @@ void LTextClient::HandleConfigChanged()
             ShowBoundField();
         }
         if (self) {
-            OnTableBindFieldChanged(BoundField());
+            ApplyBoundField();
         }
     }
     if (self) {
@@ -185,6 +185,15 @@ void LTextClient::ShowBoundField()
     const QString stored = BoundField();
     if (self && m_form->FieldCbx->currentText() != stored) {
         FillFieldChooser();
+    }
+}
+
+void LTextClient::ApplyBoundField()
+{
+    const Bound bound(this);
+    const QString field = BoundField();
+    if (bound) { // what was read of one item is none of another's
+        OnTableBindFieldChanged(field);
     }
 }
 
