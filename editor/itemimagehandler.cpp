@@ -1,5 +1,6 @@
 #include "itemimagehandler.h"
 
+#include <QFontMetrics>
 #include <QPainter>
 #include <QTextDocument>
 #include <QUrl>
@@ -23,7 +24,11 @@ QSizeF ItemImageHandler::intrinsicSize(QTextDocument *document, int position,
 {
     Q_UNUSED(position)
     // A thin image with a width alone would be higher than Qt can lay out.
-    const QSizeF size = wantedSize(document, format.toImageFormat());
+    QSizeF size = wantedSize(document, format.toImageFormat());
+    if (format.toImageFormat().verticalAlignment() == QTextCharFormat::AlignBaseline) {
+        // The layout adds what the font has below the line, and draws as high as both are.
+        size.rheight() -= QFontMetrics(format.toImageFormat().font()).descent();
+    }
     return {qBound(0.0, size.width(), qreal(LongestImageSide)),
             qBound(0.0, size.height(), qreal(LongestImageSide))};
 }

@@ -171,22 +171,27 @@ void DataPanel::buildTree()
 QWidget *DataPanel::buildToolRow()
 {
     auto *bar = new QWidget(this);
-    auto *row = new QHBoxLayout(bar);
-    row->setContentsMargins(6, 4, 6, 4);
-    row->setSpacing(2);
-    m_add->setObjectName(QStringLiteral("AddSourceButton"));
-    m_add->setMenu(m_addMenu);
-    connect(m_addMenu, &QMenu::aboutToShow, this, &DataPanel::fillAddMenu);
-    row->addWidget(m_add);
-    row->addStretch(1);
+    auto *column = new QVBoxLayout(bar);
+    column->setContentsMargins(6, 4, 6, 4);
+    column->setSpacing(4);
+    auto *uses = new QHBoxLayout;
     for (QAction *action : {m_insert, m_bind}) {
         auto *button = new QToolButton(bar);
         button->setObjectName(action->objectName() + QStringLiteral("Button"));
         button->setDefaultAction(action);
         button->setToolButtonStyle(Qt::ToolButtonTextOnly);
-        button->setAutoRaise(true);
-        row->addWidget(button);
+        button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+        uses->addWidget(button);
     }
+    column->addLayout(uses);
+    auto *row = new QHBoxLayout;
+    row->setSpacing(2);
+    column->addLayout(row);
+    m_add->setObjectName(QStringLiteral("AddSourceButton"));
+    m_add->setMenu(m_addMenu);
+    connect(m_addMenu, &QMenu::aboutToShow, this, &DataPanel::fillAddMenu);
+    row->addWidget(m_add);
+    row->addStretch(1);
     for (QAction *action : {m_read, m_edit, m_remove}) {
         auto *button = new QToolButton(bar);
         button->setObjectName(action->objectName() + QStringLiteral("Button"));

@@ -342,8 +342,10 @@ void TestTableBinding::droppedFieldIsStored()
     open(QStringLiteral("<p>wind </p>"));
     QMimeData data;
     data.setData(FieldDrag::FieldFormat, "s:wind");
-    QDropEvent drop(m_view->viewport()->rect().center(), Qt::CopyAction, &data, Qt::LeftButton,
-                    Qt::NoModifier);
+    const QPoint centre = m_view->viewport()->rect().center();
+    QDragEnterEvent enter(centre, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QDropEvent drop(centre, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(m_view->viewport(), &enter);
     QCoreApplication::sendEvent(m_view->viewport(), &drop);
     QTRY_VERIFY(QByteArray::fromBase64(m_node->GetRawHtmlText().toLatin1()).contains("s:wind"));
 }

@@ -216,7 +216,7 @@ void TestPagerender::commandLine_data()
         QTest::newRow(name) << arguments.split(QLatin1Char(' '), Qt::SkipEmptyParts) << status
                             << says;
     };
-    row("nothing", "", 2, "render or check");
+    row("nothing", "", 2, "render, check or watch");
     row("unknown command", "paint x", 2, "paint");
     row("no programme", "render -o d", 2, "no programme");
     row("no output", "render x", 2, "-o DIR");

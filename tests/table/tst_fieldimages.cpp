@@ -1,3 +1,4 @@
+#include "documentsetup.h"
 #include "table/fieldimages.h"
 
 #include "documentsetup.h"
@@ -117,6 +118,7 @@ private slots:
         letters.family = QStringLiteral("DejaVu Sans");
         letters.pointSize = 20;
         QTextDocument text;
+        preparePage(&text, TextSettings());
         QTextCursor cursor(&text);
         QFont font(letters.family);
         font.setPixelSize(20);

@@ -124,8 +124,8 @@ private slots:
         const QVector<QStringList> many(9000, QStringList{"x", "x", "x"});
         const int left = desk.commands.fill(many, 0, {});
         QCOMPARE(desk.table()->columns(), 3);
-        QCOMPARE(desk.table()->rows(), 3333);
-        QCOMPARE(left, 27000 - 3 * 3333 + 1);
+        QCOMPARE(desk.table()->rows(), 6666);
+        QCOMPARE(left, 27000 - 3 * 6666 + 1);
     }
 
     void movesByTab()

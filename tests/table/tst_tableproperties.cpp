@@ -112,6 +112,7 @@ private slots:
         QCOMPARE(dialog.value().width, 50);
         auto *ok = child<QDialogButtonBox>(dialog, "buttonBox")->button(QDialogButtonBox::Ok);
         QSignalSpy accepted(&dialog, &QDialog::accepted);
+        child<QSpinBox>(dialog, "SBColumns")->setValue(4);
         for (const int rows : {5001, 5000}) {
             child<QSpinBox>(dialog, "SBRows")->setValue(rows);
             QCOMPARE(ok->isEnabled(), rows == 5000);
