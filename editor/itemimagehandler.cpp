@@ -26,7 +26,7 @@ QSizeF ItemImageHandler::intrinsicSize(QTextDocument *document, int position,
     // A thin image with a width alone would be higher than Qt can lay out.
     QSizeF size = wantedSize(document, format.toImageFormat());
     if (format.toImageFormat().verticalAlignment() == QTextCharFormat::AlignBaseline) {
-        // The layout adds what the font has below the line, and draws as high as both are.
+        // The layout adds room for what the font has below the line.
         size.rheight() -= QFontMetrics(format.toImageFormat().font()).descent();
     }
     return {qBound(0.0, size.width(), qreal(LongestImageSide)),
@@ -61,10 +61,14 @@ void ItemImageHandler::drawObject(QPainter *painter, const QRectF &rect, QTextDo
     if (image.isNull()) {
         return;
     }
+    QRectF place = rect;
+    if (format.toImageFormat().verticalAlignment() == QTextCharFormat::AlignBaseline) {
+        place.setHeight(wantedSize(document, format.toImageFormat()).height());
+    }
     // Only what is scaled: one that lies between two pixels is not to be blurred.
     const bool isSmooth = painter->testRenderHint(QPainter::SmoothPixmapTransform);
-    painter->setRenderHint(QPainter::SmoothPixmapTransform, rect.size() != image.size());
-    painter->drawImage(rect, image, image.rect());
+    painter->setRenderHint(QPainter::SmoothPixmapTransform, place.size() != image.size());
+    painter->drawImage(place, image, image.rect());
     painter->setRenderHint(QPainter::SmoothPixmapTransform, isSmooth);
 }
 

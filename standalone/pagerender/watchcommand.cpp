@@ -130,7 +130,8 @@ void ProgrammeWatch::write(int item)
     QSet<QString> shown;
     const QStringList names = m_data.names();
     for (const QString &name : names) {
-        if (renderer.dependsOn(name)) {
+        // Without any data it cannot be told what an item shows.
+        if (data.isEmpty() || renderer.dependsOn(name)) {
             shown.insert(name);
         }
     }

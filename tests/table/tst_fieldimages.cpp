@@ -4,6 +4,7 @@
 #include "documentsetup.h"
 
 #include <QAbstractTextDocumentLayout>
+#include <QPainter>
 #include <QSignalSpy>
 #include <QTextBlock>
 #include <QTextCursor>
@@ -41,6 +42,19 @@ class TestFieldImages : public QObject
             }
         }
         return false;
+    }
+
+    /** The first and the last row with something dark in it. */
+    static QPair<int, int> inkRows(const QImage &image)
+    {
+        QPair<int, int> rows(-1, -1);
+        for (int i = 0; i < image.width() * image.height(); ++i) {
+            const int y = i / image.width();
+            if (qGray(image.pixel(i % image.width(), y)) < 128) {
+                rows = {rows.first < 0 ? y : rows.first, y};
+            }
+        }
+        return rows;
     }
 
 private slots:
@@ -117,6 +131,7 @@ private slots:
         TypingStyle letters;
         letters.family = QStringLiteral("DejaVu Sans");
         letters.pointSize = 20;
+        letters.color = Qt::black;
         QTextDocument text;
         preparePage(&text, TextSettings());
         QTextCursor cursor(&text);
@@ -131,10 +146,19 @@ private slots:
         const qreal ascent = alone.ascent();
         const qreal descent = alone.descent();
         insertField(cursor, QStringLiteral("s:wind"), letters);
-        FieldImages().refresh(&text, {{QStringLiteral("s:wind"), QStringLiteral("jH")}});
+        FieldImages().refresh(&text, {{QStringLiteral("s:wind"), QStringLiteral("gH")}});
         text.size();
         const QTextLine both = text.firstBlock().layout()->lineAt(0);
         QVERIFY(qAbs(both.ascent() - ascent) <= 1 && qAbs(both.descent() - descent) <= 1);
+        // The same letters are on the same lines of the picture.
+        QImage drawn(300, 40, QImage::Format_RGB32);
+        drawn.fill(Qt::white);
+        QPainter painter(&drawn);
+        text.drawContents(&painter);
+        painter.end();
+        const int middle =
+            int(text.documentMargin()) + QFontMetrics(font).horizontalAdvance(QStringLiteral("gH"));
+        QCOMPARE(inkRows(drawn.copy(0, 0, middle, 40)), inkRows(drawn.copy(middle, 0, 200, 40)));
 
         QTextDocument loaded;
         loaded.setHtml(text.toHtml());

@@ -187,8 +187,7 @@ void ItemPages::onDataChanged(const QStringList &names)
         const bool isConcerned =
             std::any_of(names.begin(), names.end(),
                         [&item](const QString &name) { return item.sources.contains(name); });
-        // What was never made, or before there was any data, may show anything.
-        if (isConcerned || item.generation == 0) {
+        if (isConcerned || !item.hadData) {
             item.renderer.reset();
             item.generation = 0;
             item.isCounted = false;
@@ -296,6 +295,7 @@ player::ItemRenderer *ItemPages::renderer(LTextEffectNode *node)
         if (item.generation == 0) {
             item.generation = m_nextGeneration++;
         }
+        item.hadData = !m_data->snapshot().isEmpty();
         item.sources.clear();
         for (const sources::SourceSettings &source : m_data->sources()) {
             if (item.renderer->dependsOn(source.name)) {

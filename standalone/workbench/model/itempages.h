@@ -70,6 +70,7 @@ private:
         std::shared_ptr<player::ItemRenderer> renderer; ///< Null when it must be made.
         quint64 generation = 0;                         ///< Another one for other pages.
         QSet<QString> sources;                          ///< Whose data it shows.
+        bool hadData = false;                           ///< Without any, it could not be told.
         int counted = 0;                                ///< Pages found until now.
         bool isCounted = false;                         ///< There are no more.
         bool isChanged = false;                         ///< pagesChanged() is due.
