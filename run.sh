@@ -23,12 +23,24 @@ if ! { [ -f "$build/build.ninja" ] || (cd "$root" && cmake --preset release); } 
 fi
 
 demo="$root/examples/demo.programme.json"
+# Weather and sensors of the demo; a while after the last one who could ask for them it is gone.
+serve_demo_data() {
+    if command -v python3 >/dev/null 2>&1; then
+        "$root/examples/demo-server.py" --for "$1" >/dev/null 2>&1 &
+        sleep 0.3
+    fi
+}
 if [ "${1-}" = workbench ]; then
     shift
     exec "$build/bin/workbench" "$@"
 elif [ $# -gt 0 ]; then
     exec "$build/bin/pagerender" "$@"
 elif [ -n "${DISPLAY-}${WAYLAND_DISPLAY-}" ]; then
-    exec "$build/bin/workbench" "$demo"
+    serve_demo_data 36000
+    server=${!:-}
+    trap 'kill "$server" 2>/dev/null || true' EXIT INT TERM
+    "$build/bin/workbench" "$demo"
+    exit
 fi
+serve_demo_data 60
 exec "$build/bin/pagerender" render "$demo" -o "$root/out/demo"

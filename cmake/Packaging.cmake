@@ -16,7 +16,8 @@ install(FILES
 install(EXPORT LCtrlsExPluginTargets
   NAMESPACE LCtrlsEx:: DESTINATION "${config_dir}" COMPONENT development)
 install(DIRECTORY examples/ DESTINATION "${CMAKE_INSTALL_DATADIR}/lctrlsex/examples"
-  COMPONENT runtime FILES_MATCHING PATTERN "*.json")
+  COMPONENT runtime FILES_MATCHING PATTERN "*.json" PATTERN "*.csv" PATTERN "*.sqlite"
+  PATTERN "*.py")
 install(FILES README.md LICENSE DESTINATION "${CMAKE_INSTALL_DOCDIR}" COMPONENT runtime)
 
 set(CPACK_GENERATOR DEB)
