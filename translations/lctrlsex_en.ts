@@ -38,4 +38,14 @@
         </translation>
     </message>
 </context>
+<context>
+    <name>workbench::SourceDialog</name>
+    <message numerus="yes">
+        <source>… and %n more key(s)</source>
+        <translation>
+            <numerusform>… and %n more key</numerusform>
+            <numerusform>… and %n more keys</numerusform>
+        </translation>
+    </message>
+</context>
 </TS>

@@ -2228,6 +2228,177 @@
     </message>
 </context>
 <context>
+    <name>workbench::BindFieldsDialog</name>
+    <message>
+        <source>Bind Table</source>
+        <translation>绑定表格</translation>
+    </message>
+    <message>
+        <source>Fields that the table shows, one a cell, in this order:</source>
+        <translation>表格显示的字段，每个单元格一个，按此顺序：</translation>
+    </message>
+    <message>
+        <source>Move &amp;Up</source>
+        <translation>上移(&amp;U)</translation>
+    </message>
+    <message>
+        <source>Move &amp;Down</source>
+        <translation>下移(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Choose at least one field.</source>
+        <translation>请至少选择一个字段。</translation>
+    </message>
+</context>
+<context>
+    <name>workbench::DataModel</name>
+    <message>
+        <source>Source or key</source>
+        <translation>数据源或键</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>值</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1：%2</translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <translation>%1 秒</translation>
+    </message>
+    <message>
+        <source>%1 min</source>
+        <translation>%1 分钟</translation>
+    </message>
+    <message>
+        <source>%1 h</source>
+        <translation>%1 小时</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>停用</translation>
+    </message>
+    <message>
+        <source>Reading …</source>
+        <translation>正在读取…</translation>
+    </message>
+    <message>
+        <source>Stale for %1: %2</source>
+        <translation>已过期 %1：%2</translation>
+    </message>
+    <message>
+        <source>%1 ago, took %2 ms</source>
+        <translation>%1前，用时 %2 毫秒</translation>
+    </message>
+    <message>
+        <source>%1, %2 rows</source>
+        <translation>%1，%2 行</translation>
+    </message>
+    <message>
+        <source>list of values</source>
+        <translation>值列表</translation>
+    </message>
+    <message>
+        <source>record</source>
+        <translation>记录</translation>
+    </message>
+    <message>
+        <source>list of records</source>
+        <translation>记录列表</translation>
+    </message>
+    <message>
+        <source>rows and columns</source>
+        <translation>行列数据</translation>
+    </message>
+    <message>
+        <source>text</source>
+        <translation>文本</translation>
+    </message>
+</context>
+<context>
+    <name>workbench::DataPanel</name>
+    <message>
+        <source>%1:%2
+%3</source>
+        <translation>%1:%2
+%3</translation>
+    </message>
+    <message>
+        <source>Insert a table into the text to show it.</source>
+        <translation>请在文本中插入表格以显示此数据。</translation>
+    </message>
+    <message>
+        <source>Add data source %1</source>
+        <translation>添加数据源 %1</translation>
+    </message>
+    <message>
+        <source>Change data source %1</source>
+        <translation>更改数据源 %1</translation>
+    </message>
+    <message>
+        <source>Remove data source %1</source>
+        <translation>移除数据源 %1</translation>
+    </message>
+    <message>
+        <source>Search keys and values</source>
+        <translation>搜索键和值</translation>
+    </message>
+    <message>
+        <source>Data sources</source>
+        <translation>数据源</translation>
+    </message>
+    <message>
+        <source>Sources and their keys. Return inserts a value or binds the table.</source>
+        <translation>数据源及其键。按回车键可插入值或绑定表格。</translation>
+    </message>
+    <message>
+        <source>No data source yet. “Add” below connects a file, a web address or a database; then drag values into the text.</source>
+        <translation>尚无数据源。点击下方的“添加”可连接文件、网址或数据库，然后将值拖到文本中。</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>添加</translation>
+    </message>
+    <message>
+        <source>Add a data source</source>
+        <translation>添加数据源</translation>
+    </message>
+    <message>
+        <source>Edit Source...</source>
+        <translation>编辑数据源...</translation>
+    </message>
+    <message>
+        <source>Remove Source</source>
+        <translation>移除数据源</translation>
+    </message>
+    <message>
+        <source>Read Now</source>
+        <translation>立即读取</translation>
+    </message>
+    <message>
+        <source>Insert Value</source>
+        <translation>插入值</translation>
+    </message>
+    <message>
+        <source>Insert the value into the text at the cursor</source>
+        <translation>在文本光标处插入该值</translation>
+    </message>
+    <message>
+        <source>Bind Table...</source>
+        <translation>绑定表格...</translation>
+    </message>
+    <message>
+        <source>Fill the table with this data</source>
+        <translation>用此数据填充表格</translation>
+    </message>
+    <message>
+        <source>Copy Key</source>
+        <translation>复制键</translation>
+    </message>
+</context>
+<context>
     <name>workbench::EditorPane</name>
     <message>
         <source>There is no text here yet.</source>
@@ -2685,6 +2856,14 @@ Free software under the MIT licence.</source>
         <source>Insert I&amp;mage...</source>
         <translation>插入图片(&amp;M)...</translation>
     </message>
+    <message>
+        <source>There is no table in this text yet: insert one with the table button, then bind it.</source>
+        <translation>此文本中还没有表格：请先用表格按钮插入一个，再进行绑定。</translation>
+    </message>
+    <message>
+        <source>Data</source>
+        <translation>数据</translation>
+    </message>
 </context>
 <context>
     <name>workbench::NodeDelegate</name>
@@ -2830,6 +3009,175 @@ Free software under the MIT licence.</source>
     <message>
         <source>Controller</source>
         <translation>控制器</translation>
+    </message>
+</context>
+<context>
+    <name>workbench::SourceDialog</name>
+    <message numerus="yes">
+        <source>… and %n more key(s)</source>
+        <translation>
+            <numerusform>… 还有 %n 个键</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>There is another source of that name.</source>
+        <translation>已有同名的数据源。</translation>
+    </message>
+    <message>
+        <source>Reading …</source>
+        <translation>正在读取…</translation>
+    </message>
+    <message>
+        <source>CSV or text file</source>
+        <translation>CSV 或文本文件</translation>
+    </message>
+    <message>
+        <source>JSON file</source>
+        <translation>JSON 文件</translation>
+    </message>
+    <message>
+        <source>Web address</source>
+        <translation>网址</translation>
+    </message>
+    <message>
+        <source>Database</source>
+        <translation>数据库</translation>
+    </message>
+    <message>
+        <source>System</source>
+        <translation>系统</translation>
+    </message>
+    <message>
+        <source>Kind %1</source>
+        <translation>类型 %1</translation>
+    </message>
+    <message>
+        <source>&amp;In use</source>
+        <translation>启用(&amp;I)</translation>
+    </message>
+    <message>
+        <source>Data Source – %1</source>
+        <translation>数据源 – %1</translation>
+    </message>
+    <message>
+        <source>&amp;Name:</source>
+        <translation>名称(&amp;N)：</translation>
+    </message>
+    <message>
+        <source> s</source>
+        <translation> 秒</translation>
+    </message>
+    <message>
+        <source>automatic</source>
+        <translation>自动</translation>
+    </message>
+    <message>
+        <source>&amp;File:</source>
+        <translation>文件(&amp;F)：</translation>
+    </message>
+    <message>
+        <source>relative to the programme, or a full path</source>
+        <translation>相对于节目文件的路径，或完整路径</translation>
+    </message>
+    <message>
+        <source>&amp;Browse...</source>
+        <translation>浏览(&amp;B)...</translation>
+    </message>
+    <message>
+        <source>&amp;Address:</source>
+        <translation>地址(&amp;A)：</translation>
+    </message>
+    <message>
+        <source>One a line, secrets by reference:</source>
+        <translation>每行一个，密码等机密请用引用：</translation>
+    </message>
+    <message>
+        <source>&amp;Headers:</source>
+        <translation>请求头(&amp;H)：</translation>
+    </message>
+    <message>
+        <source>&amp;Read every:</source>
+        <translation>读取间隔(&amp;R)：</translation>
+    </message>
+    <message>
+        <source>&amp;Give up after:</source>
+        <translation>超时(&amp;G)：</translation>
+    </message>
+    <message>
+        <source>Dri&amp;ver:</source>
+        <translation>驱动(&amp;V)：</translation>
+    </message>
+    <message>
+        <source>&amp;Database:</source>
+        <translation>数据库(&amp;D)：</translation>
+    </message>
+    <message>
+        <source>its name, or its file with QSQLITE</source>
+        <translation>数据库名；QSQLITE 则为数据库文件</translation>
+    </message>
+    <message>
+        <source>&amp;Host:</source>
+        <translation>主机(&amp;H)：</translation>
+    </message>
+    <message>
+        <source>&amp;Port:</source>
+        <translation>端口(&amp;P)：</translation>
+    </message>
+    <message>
+        <source>&amp;User:</source>
+        <translation>用户(&amp;U)：</translation>
+    </message>
+    <message>
+        <source>Pass&amp;word:</source>
+        <translation>密码(&amp;W)：</translation>
+    </message>
+    <message>
+        <source>&amp;Query:</source>
+        <translation>查询(&amp;Q)：</translation>
+    </message>
+    <message>
+        <source>plain text</source>
+        <translation>纯文本</translation>
+    </message>
+    <message>
+        <source>tab</source>
+        <translation>制表符</translation>
+    </message>
+    <message>
+        <source>&amp;Separator:</source>
+        <translation>分隔符(&amp;S)：</translation>
+    </message>
+    <message>
+        <source>&amp;Encoding:</source>
+        <translation>编码(&amp;E)：</translation>
+    </message>
+    <message>
+        <source>&amp;Test</source>
+        <translation>测试(&amp;T)</translation>
+    </message>
+    <message>
+        <source>Read the source once and show what it delivers</source>
+        <translation>读取一次数据源并显示其内容</translation>
+    </message>
+    <message>
+        <source>Choose a File</source>
+        <translation>选择文件</translation>
+    </message>
+    <message>
+        <source>JSON files (*.json)</source>
+        <translation>JSON 文件 (*.json)</translation>
+    </message>
+    <message>
+        <source>CSV and text files (*.csv *.tsv *.txt)</source>
+        <translation>CSV 和文本文件 (*.csv *.tsv *.txt)</translation>
+    </message>
+    <message>
+        <source>All files (*)</source>
+        <translation>所有文件 (*)</translation>
+    </message>
+    <message>
+        <source>For&amp;mat:</source>
+        <translation>格式(&amp;M)：</translation>
     </message>
 </context>
 <context>

@@ -102,7 +102,7 @@ DataPanel::DataPanel(LiveData *live, QWidget *parent)
         label->setWordWrap(true);
         label->setMargin(8);
         label->setTextFormat(Qt::PlainText);
-        column->addWidget(label);
+        column->addWidget(label, label == m_hint ? 1 : 0);
     }
     m_hint->setObjectName(QStringLiteral("DataHint"));
     m_hint->setAlignment(Qt::AlignCenter);
@@ -189,7 +189,6 @@ QWidget *DataPanel::buildToolRow()
     column->addLayout(row);
     m_add->setObjectName(QStringLiteral("AddSourceButton"));
     m_add->setMenu(m_addMenu);
-    connect(m_addMenu, &QMenu::aboutToShow, this, &DataPanel::fillAddMenu);
     row->addWidget(m_add);
     row->addStretch(1);
     for (QAction *action : {m_read, m_edit, m_remove}) {
@@ -208,7 +207,9 @@ void DataPanel::fillAddMenu()
     m_addMenu->clear();
     for (const sources::SourceKind &kind : sources::sourceKinds()) {
         const int type = kind.type;
-        m_addMenu->addAction(sourceKindName(type), this, [this, type] { addSource(type); });
+        QAction *action = m_addMenu->addAction(sourceKindName(type));
+        action->setObjectName(QStringLiteral("AddSource%1").arg(type));
+        connect(action, &QAction::triggered, this, [this, type] { addSource(type); });
     }
 }
 
@@ -252,6 +253,7 @@ void DataPanel::updateActions()
     m_copy->setEnabled(!key.name.isEmpty());
     const bool isEmpty = m_model->rowCount() == 0;
     m_hint->setVisible(isEmpty);
+    m_tree->setVisible(!isEmpty);
     m_search->setEnabled(!isEmpty);
     updateDetail();
 }
@@ -389,6 +391,7 @@ void DataPanel::retranslate()
                        "database; then drag values into the text."));
     m_add->setText(tr("Add"));
     m_add->setToolTip(tr("Add a data source"));
+    fillAddMenu();
     m_edit->setText(tr("Edit Source..."));
     m_remove->setText(tr("Remove Source"));
     m_read->setText(tr("Read Now"));

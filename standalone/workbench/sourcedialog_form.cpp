@@ -222,7 +222,7 @@ void SourceDialog::buildFormat()
         m_format->addItem(QStringLiteral("JSON"), QStringLiteral("json"));
     }
     choose(m_format, m_original.format);
-    addRow(tr("F&ormat:"), m_format);
+    addRow(tr("For&mat:"), m_format);
     m_delimiter = new QComboBox(this);
     m_delimiter->setObjectName(QStringLiteral("SourceDelimiter"));
     m_delimiter->addItem(tr("automatic"), QString());

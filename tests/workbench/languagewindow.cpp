@@ -59,15 +59,17 @@ LNode *LanguageWindow::node(const QList<int> &path) const
 
 QStringList LanguageWindow::states()
 {
-    return {"item",   "damaged item", "frame",   "bare frame",
+    return {"item",   "damaged item", "frame",   "bare frame", "data",
             "screen", "programme",    "display", "notice"};
 }
 
 void LanguageWindow::enter(const QString &state)
 {
-    static const QMap<QString, QList<int>> paths{
-        {"item", {0, 0, 0}}, {"damaged item", {0, 0, 1}}, {"frame", {0, 0}}, {"bare frame", {0, 1}},
-        {"screen", {0}},     {"programme", {}},           {"display", {}},   {"notice", {0, 0, 0}}};
+    static const QMap<QString, QList<int>> paths{{"item", {0, 0, 0}},  {"damaged item", {0, 0, 1}},
+                                                 {"frame", {0, 0}},    {"bare frame", {0, 1}},
+                                                 {"data", {0, 0, 0}},  {"screen", {0}},
+                                                 {"programme", {}},    {"display", {}},
+                                                 {"notice", {0, 0, 0}}};
     if (state == "display") {
         auto *display = m_window->findChild<QComboBox *>("DeviceKind");
         m_window->selectNode(node({}));
@@ -79,6 +81,9 @@ void LanguageWindow::enter(const QString &state)
     }
     if (state == "frame" || state == "screen" || state == "programme") {
         m_window->findChild<QDockWidget *>("LayoutDock")->raise();
+    }
+    if (state == "data") {
+        m_window->findChild<QDockWidget *>("DataDock")->raise();
     }
     if (state == "notice") {
         m_window->openFile("/#");

@@ -245,6 +245,10 @@ QStringList crampedIn(const QWidget *window)
         if (!widget->isVisible() || widget->window() != window) {
             continue;
         }
+        // A dock behind another one's tab waits outside of the window, in a size of no meaning.
+        if (widget->mapTo(const_cast<QWidget *>(window), widget->rect().bottomRight()).x() < 0) {
+            continue;
+        }
         const QSize need = needOf(widget);
         if (need.width() > widget->width() || need.height() > widget->height()) {
             faults.append(QString("%1 needs %2 x %3 and has %4 x %5")
