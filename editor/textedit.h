@@ -15,6 +15,7 @@
 class LTextEffectNode;
 class QAction;
 class QKeyEvent;
+class QDomElement;
 class QToolBar;
 class LRichViewEdit;
 
@@ -111,6 +112,9 @@ public:
      * comes back as it is and clears nothing.
      */
     [[nodiscard]] QString UnifyTableColumnWidths(const QString &html) const;
+    /** Borders and widths of one table, see lctrlsex::unifyTable(); a null element is left alone.
+     */
+    void ProcessSingleTable(QDomElement table) const;
 
 signals:
     /** Sent when it may have changed whether the document holds a table. */

@@ -12,10 +12,12 @@
 #include "table/placeholderplan.h"
 #include "table/tablebinding.h"
 #include "table/tablecommands.h"
+#include "table/tabledom.h"
 #include "textedit.h"
 #include "viewmenu.h"
 
 #include <QAction>
+#include <QDomElement>
 #include <QMenu>
 
 using lctrlsex::nodeCall;
@@ -124,6 +126,11 @@ QString TextEdit::UnifyTableColumnWidths(const QString &html) const
     const int attachment = m_attachment;
     return lctrlsex::unifyTables(m_node, html,
                                  [this, attachment] { return isAttached(attachment); });
+}
+
+void TextEdit::ProcessSingleTable(QDomElement table) const
+{
+    lctrlsex::unifyTable(std::move(table));
 }
 
 void TextEdit::ONDataSourceNameChanged(QAction *action)

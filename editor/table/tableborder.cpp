@@ -14,10 +14,14 @@ QString withDeclaration(const QString &style, const QString &declaration)
 }
 
 TableBorder::TableBorder(const HtmlToken &table)
-    : width(valueOf(table, QLatin1String("border"), QStringLiteral("1")) + QLatin1String("px"))
+    : TableBorder(valueOf(table, QLatin1String("style")),
+                  valueOf(table, QLatin1String("border"), QStringLiteral("1")))
+{}
+
+TableBorder::TableBorder(const QString &styleText, const QString &borderText)
+    : width(borderText + QLatin1String("px"))
 {
-    const auto declarations =
-        valueOf(table, QLatin1String("style")).split(QLatin1Char(';'), Qt::SkipEmptyParts);
+    const auto declarations = styleText.split(QLatin1Char(';'), Qt::SkipEmptyParts);
     for (const QString &declaration : declarations) {
         constexpr int nameLength = 13; // of each of the three
         const QString text = declaration.trimmed();

@@ -11,6 +11,8 @@ namespace lctrlsex {
 struct TableBorder
 {
     explicit TableBorder(const HtmlToken &table);
+    /** Of a table's attributes "style" and "border". */
+    TableBorder(const QString &styleText, const QString &borderText);
 
     [[nodiscard]] QString declaration() const;
     /** Width in whole pixels; 1 when it is given in anything else. */

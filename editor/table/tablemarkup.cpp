@@ -15,17 +15,6 @@ namespace lctrlsex {
 
 namespace {
 
-double pixelsOf(const QString &width, int tableWidth)
-{
-    bool isNumber = false;
-    if (width.endsWith(QLatin1Char('%'))) {
-        const double share = width.chopped(1).toDouble(&isNumber);
-        return isNumber && share >= 0 ? share * tableWidth / 100 : -1;
-    }
-    const double pixels = width.toDouble(&isNumber);
-    return isNumber && pixels >= 0 && pixels < 1e6 ? pixels : -1;
-}
-
 int spanOf(const HtmlToken &cell, QLatin1String key)
 {
     const HtmlAttribute attribute = attributeOf(cell, key);
@@ -68,9 +57,9 @@ public:
         const HtmlAttribute width = attributeOf(tag, QLatin1String("width"));
         m_cells.back().push_back(
             {attributeOf(tag, QLatin1String("style")), width, insertionPlace(tag)});
-        m_extents.last().append({spanOf(tag, QLatin1String("rowspan")),
-                                 spanOf(tag, QLatin1String("colspan")),
-                                 isThere(width) ? pixelsOf(attributeText(width), m_width) : -1});
+        m_extents.last().append(
+            {spanOf(tag, QLatin1String("rowspan")), spanOf(tag, QLatin1String("colspan")),
+             isThere(width) ? pixelsOfWidth(attributeText(width), m_width) : -1});
     }
 
     void finish(const TableMarks &marks, std::vector<MarkupEdit> *edits) const

@@ -104,6 +104,17 @@ QVector<int> columnWidths(QVector<double> widths, int tableWidth)
 
 } // namespace
 
+double pixelsOfWidth(const QString &width, int tableWidth)
+{
+    bool isNumber = false;
+    if (width.endsWith(QLatin1Char('%'))) {
+        const double share = width.chopped(1).toDouble(&isNumber);
+        return isNumber && share >= 0 ? share * tableWidth / 100 : -1;
+    }
+    const double pixels = width.toDouble(&isNumber);
+    return isNumber && pixels >= 0 && pixels < 1e6 ? pixels : -1;
+}
+
 QVector<QVector<int>> cellWidths(const QVector<QVector<CellExtent>> &rows, int tableWidth,
                                  int perJoint)
 {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QString>
 #include <QVector>
 
 namespace lctrlsex {
@@ -11,6 +12,9 @@ struct CellExtent
     int columns = 1;
     double width = -1; ///< In pixels, over all its columns; below 0: none is given.
 };
+
+/** The attribute @p width of a cell in pixels, -1 when it claims none; may be in percent. */
+[[nodiscard]] double pixelsOfWidth(const QString &width, int tableWidth);
 
 /**
  * The width in whole pixels of every cell of a table, in the order given: @p rows are its rows from

@@ -21,7 +21,7 @@ const QByteArray Head = "{\"format\": \"lctrlsex-programme\", \"version\": 1,\n"
 
 QByteArray demo()
 {
-    QFile file(QStringLiteral(LCTRLSEX_SOURCE_DIR "/examples/demo.programme.json"));
+    QFile file(QStringLiteral(LCTRLSEX_SOURCE_DIR "/tests/data/station.programme.json"));
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
@@ -317,7 +317,8 @@ public:
         : m_folder(folder)
         , m_file(folder + "/p.json")
     {
-        QFile(QStringLiteral(LCTRLSEX_SOURCE_DIR "/examples/demo.programme.json")).copy(m_file);
+        QFile(QStringLiteral(LCTRLSEX_SOURCE_DIR "/tests/data/station.programme.json"))
+            .copy(m_file);
     }
 
     [[nodiscard]] bool isPossible()

@@ -105,9 +105,19 @@ private slots:
 void TestPagerender::rendersTheDemo()
 {
     QTemporaryDir folder;
+    const auto give = [&folder](const QString &name, const QByteArray &json) {
+        QFile file(folder.filePath(name));
+        file.open(QIODevice::WriteOnly);
+        file.write(json);
+        return QStringLiteral("%1=%2").arg(name.section(QLatin1Char('.'), 0, 0), file.fileName());
+    };
     const Outcome outcome = pagerender(
         {QStringLiteral("render"), source(QStringLiteral("examples/demo.programme.json")),
-         QStringLiteral("-o"), folder.filePath(QStringLiteral("a/b"))});
+         QStringLiteral("-o"), folder.filePath(QStringLiteral("a/b")), QStringLiteral("--data"),
+         give(QStringLiteral("Weather.json"),
+              R"({"temperature": 21.5, "wind": 7, "text": "Sunny"})"),
+         QStringLiteral("--data"),
+         give(QStringLiteral("Sensors.json"), R"({"levels": [[11, 22, 33], [44, 55, 66]]})")});
     QCOMPARE(outcome.err, QString());
     QCOMPARE(outcome.status, 0);
     const QStringList files = outcome.out.split(QLatin1Char('\n'), Qt::SkipEmptyParts);
@@ -133,7 +143,7 @@ void TestPagerender::pagesAreTheSameEveryTime()
     QTemporaryDir folder;
     for (const QString &run : {QStringLiteral("1"), QStringLiteral("2")}) {
         QCOMPARE(pagerender({QStringLiteral("render"),
-                             source(QStringLiteral("examples/demo.programme.json")),
+                             source(QStringLiteral("tests/data/station.programme.json")),
                              QStringLiteral("-o"), folder.filePath(run)})
                      .status,
                  0);
@@ -191,7 +201,7 @@ void TestPagerender::selectsItemsAndSize()
 {
     QTemporaryDir folder;
     const Outcome outcome = pagerender(
-        {QStringLiteral("render"), source(QStringLiteral("examples/demo.programme.json")),
+        {QStringLiteral("render"), source(QStringLiteral("tests/data/station.programme.json")),
          QStringLiteral("-o"), folder.path(), QStringLiteral("--item"), QStringLiteral("Headline"),
          QStringLiteral("--item"), QStringLiteral("Notices/Full/Sale"), QStringLiteral("--size"),
          QStringLiteral("400x140")});
@@ -200,7 +210,7 @@ void TestPagerender::selectsItemsAndSize()
     QCOMPARE(QImage(folder.filePath(QStringLiteral("Headline-1.png"))).size(), QSize(400, 140));
 
     const Outcome unknown = pagerender(
-        {QStringLiteral("render"), source(QStringLiteral("examples/demo.programme.json")),
+        {QStringLiteral("render"), source(QStringLiteral("tests/data/station.programme.json")),
          QStringLiteral("-o"), folder.path(), QStringLiteral("--item"), QStringLiteral("Headlin")});
     QCOMPARE(unknown.status, 1);
     QVERIFY(unknown.err.contains(QStringLiteral("Headline")));

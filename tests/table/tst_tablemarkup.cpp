@@ -1,3 +1,4 @@
+#include "table/tabledom.h"
 #include "table/tablemarkup.h"
 #include "table/tablewidths.h"
 
@@ -21,6 +22,7 @@ private slots:
     void widths_data();
     void widths();
     void whatQtWrites();
+    void elementsAndMarkupAgree();
     void marks_data();
     void marks();
     void staysAsItIs_data();
@@ -151,6 +153,40 @@ void TestTableMarkup::staysAsItIs()
 {
     QFETCH(QString, html);
     QCOMPARE(unifyTableColumnWidths(html, TableMarks()), html);
+}
+
+/** The same rules stand behind an element of a document and behind markup. */
+void TestTableMarkup::elementsAndMarkupAgree()
+{
+    const QString row = QStringLiteral("<tr><td width=\"30\" style=\"color:red\">a</td>"
+                                       "<td colspan=\"2\" width=\"50%\">b</td></tr>");
+    const QStringList tables = {
+        QStringLiteral("<table width=\"400\">") + row + row,
+        QStringLiteral("<table border=\"3\" cellpadding=\"4\" width=\"401\" "
+                       "style=\"border-color:#00ff00; border-width:2px\"><thead>") +
+            row + QStringLiteral("</thead><tr><td rowspan=\"2\">c</td><td/><td/></tr>"),
+        QStringLiteral("<table width=\"90%\">") + row,
+        QStringLiteral("<table style=\"border-collapse:separate\">") + row};
+    for (const QString &table : tables) {
+        const QString html = QStringLiteral("<html><body>%1</table></body></html>").arg(table);
+        QDomDocument element;
+        QDomDocument markup;
+        QVERIFY(element.setContent(html) &&
+                markup.setContent(unifyTableColumnWidths(html, TableMarks())));
+        unifyTable(element.elementsByTagName("table").at(0).toElement());
+        const QDomNodeList ours = element.elementsByTagName("td");
+        const QDomNodeList theirs = markup.elementsByTagName("td");
+        QCOMPARE(ours.size(), theirs.size());
+        for (int i = 0; i < ours.size(); ++i) {
+            for (const char *name : {"width", "style"}) {
+                QCOMPARE(ours.at(i).toElement().attribute(name),
+                         theirs.at(i).toElement().attribute(name));
+            }
+        }
+        QCOMPARE(element.elementsByTagName("table").at(0).toElement().attribute("style").trimmed(),
+                 markup.elementsByTagName("table").at(0).toElement().attribute("style").trimmed());
+    }
+    unifyTable(QDomElement());
 }
 
 QTEST_MAIN(TestTableMarkup)

@@ -56,7 +56,7 @@ void TestItemPages::init()
 void TestItemPages::pagesAreThePlayers()
 {
     ProgrammeDocument document;
-    QVERIFY(!document.open(QStringLiteral(LCTRLSEX_SOURCE_DIR "/examples/demo.programme.json"))
+    QVERIFY(!document.open(QStringLiteral(LCTRLSEX_SOURCE_DIR "/tests/data/station.programme.json"))
                  .isSet());
     LiveData data(&document);
     ItemPages pages(&document, &data);

@@ -187,7 +187,8 @@ void ItemPages::onDataChanged(const QStringList &names)
         const bool isConcerned =
             std::any_of(names.begin(), names.end(),
                         [&item](const QString &name) { return item.sources.contains(name); });
-        if (isConcerned || !item.hadData) {
+        // Without a generation it is known already that its pages are to be asked for.
+        if (item.generation != 0 && (isConcerned || !item.hadData)) {
             item.renderer.reset();
             item.generation = 0;
             item.isCounted = false;
