@@ -9,15 +9,9 @@
 #include <QTextFrame>
 #include <QUrl>
 
-namespace lctrlsex {
+#include <algorithm>
 
-struct FieldImages::Found
-{
-    int position = 0;
-    int length = 0;
-    QString name;
-    QString style;
-};
+namespace lctrlsex {
 
 namespace {
 
@@ -96,6 +90,25 @@ bool belongTogether(const QTextDocument &document, int position, int other)
            document.findBlock(position) == document.findBlock(other);
 }
 
+/** The keys that only one of both has, or with another text. */
+QSet<QString> differences(const QMap<QString, QString> &before, const QMap<QString, QString> &now)
+{
+    QSet<QString> keys;
+    auto old = before.cbegin();
+    auto fresh = now.cbegin();
+    while (old != before.cend() || fresh != now.cend()) {
+        const bool isGone =
+            fresh == now.cend() || (old != before.cend() && old.key() < fresh.key());
+        const bool isNew = !isGone && (old == before.cend() || fresh.key() < old.key());
+        if (isGone || isNew || *old != *fresh) {
+            keys.insert(isNew ? fresh.key() : old.key());
+        }
+        old += isNew ? 0 : 1;
+        fresh += isGone ? 0 : 1;
+    }
+    return keys;
+}
+
 } // namespace
 
 QVector<FieldImages::Found> FieldImages::fieldsOf(const QTextDocument &document)
@@ -159,11 +172,11 @@ bool FieldImages::holds(const QTextDocument &document, const QString &name, cons
     return image.value<QImage>().cacheKey() == drawn.imageKey;
 }
 
-/** Draws those of @p fields that are not current, and remembers all of them. */
-QSet<QString> FieldImages::draw(QTextDocument *document, QHash<QString, Drawn> fields)
+/** Draws those of @p fields that are not current. */
+QSet<QString> FieldImages::draw(QTextDocument *document, QHash<QString, Drawn> *fields) const
 {
     QSet<QString> changed;
-    for (auto it = fields.begin(); it != fields.end(); ++it) {
+    for (auto it = fields->begin(); it != fields->end(); ++it) {
         if (isCurrent(*document, it.key(), *it)) {
             it->imageKey = m_drawn.value(it.key()).imageKey;
             continue;
@@ -174,7 +187,6 @@ QSet<QString> FieldImages::draw(QTextDocument *document, QHash<QString, Drawn> f
         it->imageKey = image.cacheKey();
         changed.insert(it.key());
     }
-    m_drawn = fields;
     return changed;
 }
 
@@ -184,7 +196,7 @@ void FieldImages::markDirty(QTextDocument *document, const QVector<Found> &field
     int first = 0;
     int end = 0;
     for (const Found &field : fields) {
-        if (!changed.contains(field.name)) {
+        if (field.length == 0 || !changed.contains(field.name)) {
             continue;
         }
         if (end > 0 && !belongTogether(*document, first, field.position)) {
@@ -199,15 +211,37 @@ void FieldImages::markDirty(QTextDocument *document, const QVector<Found> &field
     }
 }
 
-bool FieldImages::isAsBefore(const QTextDocument *document, const QMap<QString, QString> &values,
-                             bool antialias) const
+bool FieldImages::hasSameFields(const QTextDocument *document, bool antialias) const
 {
-    if (document != m_document || document->revision() != m_revision || antialias != m_antialias ||
-        values != m_values) {
+    if (document != m_document || document->revision() != m_revision || antialias != m_antialias) {
         return false;
     }
     // A document loses all of its images at once.
     return m_drawn.isEmpty() || holds(*document, m_drawn.cbegin().key(), *m_drawn.cbegin());
+}
+
+/** Those of the fields found last that may show the values of @p keys, in their order. */
+QVector<FieldImages::Found> FieldImages::fieldsShowing(const QSet<QString> &keys)
+{
+    // Not before it is asked for: a text that is being written has its fields found at every key.
+    if (m_places.isEmpty()) {
+        for (int i = 0; i < m_fields.size(); ++i) {
+            const QString key = fieldKey(m_fields.at(i).name);
+            m_places.insert(key, i);
+            m_places.insert(fieldName(key), i);
+        }
+    }
+    QVector<int> places;
+    for (const QString &key : keys) {
+        places += m_places.values(key).toVector();
+    }
+    std::sort(places.begin(), places.end());
+    places.erase(std::unique(places.begin(), places.end()), places.end());
+    QVector<Found> fields;
+    for (const int place : qAsConst(places)) {
+        fields.append(m_fields.at(place));
+    }
+    return fields;
 }
 
 bool FieldImages::refresh(QTextDocument *document, const QMap<QString, QString> &values)
@@ -216,16 +250,28 @@ bool FieldImages::refresh(QTextDocument *document, const QMap<QString, QString> 
         return false;
     }
     const bool antialias = isAntialiased(document->defaultFont());
-    if (isAsBefore(document, values, antialias)) {
+    const bool isSame = hasSameFields(document, antialias);
+    if (!isSame) {
+        m_document = document;
+        m_revision = document->revision();
+        m_antialias = antialias;
+        m_fields = removed(*document) + fieldsOf(*document);
+        m_places.clear();
+    }
+    if (isSame && values == m_values) {
         return false;
     }
-    m_document = document;
-    m_revision = document->revision();
+    const QVector<Found> fields = isSame ? fieldsShowing(differences(m_values, values)) : m_fields;
     m_values = values;
-    m_antialias = antialias;
-    const QVector<Found> fields = fieldsOf(*document);
-    const QSet<QString> changed =
-        draw(document, wanted(removed(*document) + fields, values, antialias));
+    QHash<QString, Drawn> drawn = wanted(fields, values, antialias);
+    const QSet<QString> changed = draw(document, &drawn);
+    if (isSame) {
+        for (auto it = drawn.cbegin(); it != drawn.cend(); ++it) {
+            m_drawn.insert(it.key(), *it);
+        }
+    } else {
+        m_drawn = drawn;
+    }
     markDirty(document, fields, changed);
     return !changed.isEmpty();
 }

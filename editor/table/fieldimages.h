@@ -45,7 +45,13 @@ private:
         bool antialias = true;
         qint64 imageKey = 0;
     };
-    struct Found;
+    struct Found
+    {
+        int position = 0;
+        int length = 0; ///< 0 of one that was taken out.
+        QString name;
+        QString style;
+    };
 
     static QVector<Found> fieldsOf(const QTextDocument &document);
     [[nodiscard]] QVector<Found> removed(const QTextDocument &document) const;
@@ -54,10 +60,10 @@ private:
                                         const QMap<QString, QString> &values, bool antialias);
     static void markDirty(QTextDocument *document, const QVector<Found> &fields,
                           const QSet<QString> &changed);
-    [[nodiscard]] bool isAsBefore(const QTextDocument *document,
-                                  const QMap<QString, QString> &values, bool antialias) const;
+    [[nodiscard]] bool hasSameFields(const QTextDocument *document, bool antialias) const;
+    [[nodiscard]] QVector<Found> fieldsShowing(const QSet<QString> &keys);
     bool isCurrent(const QTextDocument &document, const QString &name, const Drawn &field) const;
-    QSet<QString> draw(QTextDocument *document, QHash<QString, Drawn> fields);
+    QSet<QString> draw(QTextDocument *document, QHash<QString, Drawn> *fields) const;
 
     QHash<QString, Drawn> m_drawn;
     // Of the refresh before.
@@ -65,6 +71,8 @@ private:
     int m_revision = -1;
     bool m_antialias = true;
     QMap<QString, QString> m_values;
+    QVector<Found> m_fields;
+    QMultiHash<QString, int> m_places; ///< Indices of fields by each key that they may show.
 };
 
 } // namespace lctrlsex

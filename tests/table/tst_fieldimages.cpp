@@ -204,6 +204,23 @@ private slots:
         QVERIFY2(images.refresh(&document, {{"a", "1"}, {"b", "20000"}}), "images were lost");
     }
 
+    void keepsWhatUndoBringsBack()
+    {
+        QTextDocument document;
+        QTextCursor cursor(&document);
+        insertField(cursor, "s:a", style());
+        FieldImages images;
+        QVERIFY(images.refresh(&document, {{"s:a", "1"}}));
+        document.undo();
+        QVERIFY(!images.refresh(&document, {{"s:a", "1"}}));
+        QVERIFY(images.refresh(&document, {{"s:a", "2"}}));
+        document.redo();
+        QVERIFY(!images.refresh(&document, {{"s:a", "2"}}));
+        FieldStyle plain;
+        plain.text = style();
+        QCOMPARE(image(document, "s:a"), drawField("2", plain, false));
+    }
+
     void showsTheNameOfAMissingValue()
     {
         QTextDocument document;
