@@ -80,7 +80,7 @@ public:
 
     // What the client learns of data; each rebuilds the menu that shows it
 
-    /** Values of fields by qualified name: redraws the field images. */
+    /** Values of fields by qualified name: offers these fields and redraws the field images. */
     void UpdateField(QMap<QString, QString> &values);
     /** Calculated values by name. */
     void UpdateExpression(QMap<QString, QString> &values);

@@ -57,6 +57,7 @@ void TextEdit::RefreshDataSource()
 void TextEdit::UpdateField(QMap<QString, QString> &values)
 {
     m_fields->fromClient = values;
+    m_binding->setClientFields(values.keys());
     UpdateBindKeys();
 }
 

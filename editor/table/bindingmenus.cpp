@@ -1,5 +1,7 @@
 #include "bindingmenus.h"
 
+#include "fieldformat.h"
+
 #include <QActionGroup>
 #include <QMenu>
 #include <QToolButton>
@@ -136,6 +138,14 @@ void BindingMenus::rebuild(const DataSourceIndex &index, const QMap<QString, QSt
     }
 }
 
+void BindingMenus::setClientFields(const QStringList &keys)
+{
+    if (keys != m_clientFields && buttons().size() == m_buttons.size()) {
+        m_clientFields = keys;
+        showFields();
+    }
+}
+
 void BindingMenus::setConditionStyles(const QMap<QString, QString> &styles)
 {
     if (styles != m_styles && m_styleMenu != nullptr) {
@@ -176,14 +186,29 @@ QString BindingMenus::whyNoFields() const
                                               : tr("The data source has no fields");
 }
 
+QMap<QString, QString> BindingMenus::offeredFields() const
+{
+    QMap<QString, QString> keys;
+    const QStringList names = m_index.fieldNames();
+    for (const QString &name : names) {
+        keys.insert(name, qualifiedKey(m_index.selectedSource(), name));
+    }
+    for (const QString &key : m_clientFields) {
+        if (!key.isEmpty() && !keys.contains(key) && keys.value(fieldName(key)) != key) {
+            keys.insert(key, key);
+        }
+    }
+    return keys;
+}
+
 void BindingMenus::showFields()
 {
     clear(m_fields);
-    const QStringList names = m_index.fieldNames();
-    for (const QString &name : names) {
-        addEntry(m_fields, name)->setData(qualifiedKey(m_index.selectedSource(), name));
+    const QMap<QString, QString> fields = offeredFields();
+    for (auto it = fields.cbegin(); it != fields.cend(); ++it) {
+        addEntry(m_fields, it.key())->setData(*it);
     }
-    if (names.isEmpty()) {
+    if (fields.isEmpty()) {
         addReason(m_fields, whyNoFields());
     }
     m_fields->addSeparator();

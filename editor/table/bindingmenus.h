@@ -37,6 +37,8 @@ public:
 
     /** Offers the sources and fields of @p index and the calculations by their names. */
     void rebuild(const DataSourceIndex &index, const QMap<QString, QString> &expressions);
+    /** Offers fields by these keys too, as far as the selected source does not offer them. */
+    void setClientFields(const QStringList &keys);
     /** Offers conditional styles, identifier to name, in the order of their names. */
     void setConditionStyles(const QMap<QString, QString> &styles);
 
@@ -56,6 +58,7 @@ private:
     void showExpressions();
     void showStyles();
     QString whyNoFields() const;
+    [[nodiscard]] QMap<QString, QString> offeredFields() const; ///< Keys by name.
 
     Q_DISABLE_COPY(BindingMenus)
 
@@ -67,6 +70,7 @@ private:
     QPointer<QMenu> m_styleMenu;
 
     DataSourceIndex m_index;
+    QStringList m_clientFields;
     QStringList m_expressions;
     QMap<QString, QString> m_styles; ///< Names by identifier.
 };

@@ -88,6 +88,20 @@ private slots:
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     }
 
+    void offersEachFieldOnce()
+    {
+        BindingMenus menus;
+        menus.rebuild(index("weather"), {});
+        menus.setClientFields({"plan:line", "wind", "weather:air", "weather:dew", "bus"});
+        QCOMPARE(texts(menu(menus, 1)).mid(0, 6),
+                 QStringList({"air", "bus", "plan:line", "weather:dew", "wind", "--"}));
+        const QList<QAction *> actions = menu(menus, 1)->actions();
+        QCOMPARE(actions.at(1)->data().toString(), QString("bus"));
+        QCOMPARE(actions.at(4)->data().toString(), QString("weather:wind"));
+        menus.setClientFields({});
+        QCOMPARE(texts(menu(menus, 1)).mid(0, 3), QStringList({"air", "wind", "--"}));
+    }
+
     void rebuildsOnlyWhatChanged()
     {
         BindingMenus menus;
