@@ -45,7 +45,9 @@ protected:
     void changeEvent(QEvent *event) override;
 
 private:
+    void buildActions();
     void buildTree();
+    void buildColumn();
     QWidget *buildToolRow();
     QAction *addAction(const QString &name, void (DataPanel::*run)());
     void fillAddMenu();
@@ -77,12 +79,12 @@ private:
     QLabel *m_error;
     QPushButton *m_add;
     QMenu *m_addMenu;
-    QAction *m_edit;
-    QAction *m_remove;
-    QAction *m_read;
-    QAction *m_insert;
-    QAction *m_bind;
-    QAction *m_copy;
+    QAction *m_edit = nullptr;
+    QAction *m_remove = nullptr;
+    QAction *m_read = nullptr;
+    QAction *m_insert = nullptr;
+    QAction *m_bind = nullptr;
+    QAction *m_copy = nullptr;
     bool m_hasText = false;
     bool m_hasTable = false;
 };
