@@ -155,7 +155,10 @@ void TextEdit::ONFieldNameChanged(QAction *action)
 
 void TextEdit::ONInsertFieldNameChanged(const QString &field)
 {
-    ApplyFormatAndInsert(field);
+    // The view knows names only, and those of the selected source.
+    const lctrlsex::DataSourceIndex &index = m_fields->index;
+    const bool isName = index.values().contains(field);
+    ApplyFormatAndInsert(isName ? lctrlsex::qualifiedKey(index.selectedSource(), field) : field);
 }
 
 void TextEdit::ApplyFormatAndInsert(const QString &field)

@@ -347,7 +347,17 @@ void TestTableBinding::droppedFieldIsStored()
     QDropEvent drop(centre, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
     QCoreApplication::sendEvent(m_view->viewport(), &enter);
     QCoreApplication::sendEvent(m_view->viewport(), &drop);
-    QTRY_VERIFY(QByteArray::fromBase64(m_node->GetRawHtmlText().toLatin1()).contains("s:wind"));
+    const auto stored = [this] {
+        return QByteArray::fromBase64(m_node->GetRawHtmlText().toLatin1());
+    };
+    QTRY_VERIFY(stored().contains("\"s:wind\""));
+
+    // The view's own menu offers the names of the selected source.
+    m_node->SetDataSource(QStringLiteral("s"));
+    m_editor->OnSourceChanged();
+    QVERIFY(QMetaObject::invokeMethod(m_view, "InsertFieldNameSignal",
+                                      Q_ARG(QString, QStringLiteral("wind"))));
+    QTRY_COMPARE(stored().count("\"s:wind\""), 2);
 }
 
 QTEST_MAIN(TestTableBinding)
