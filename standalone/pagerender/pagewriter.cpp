@@ -127,6 +127,17 @@ void PageWriter::write(ItemRenderer *renderer, const QString &itemName, const QS
     removeFrom(pages, &written);
 }
 
+void PageWriter::keepOnly(const QVector<player::ProgrammeItem> &items)
+{
+    for (auto it = m_written.begin(); it != m_written.end(); ++it) {
+        const bool isKept = std::any_of(items.begin(), items.end(),
+                                        [&it](const auto &item) { return item.place == it.key(); });
+        if (!isKept) {
+            removeFrom(0, &*it); // its names stay its own, for it may come back
+        }
+    }
+}
+
 QString PageWriter::fileOf(const Written &written, int index) const
 {
     return QDir(m_line.outputFolder)

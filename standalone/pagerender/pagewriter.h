@@ -37,6 +37,8 @@ public:
      * last are not written again, and files of pages that are no more are removed.
      */
     void write(player::ItemRenderer *renderer, const QString &itemName, const QString &progress);
+    /** Removes what was written of items that are not among these. */
+    void keepOnly(const QVector<player::ProgrammeItem> &items);
 
 private:
     /** What was written of an item. */

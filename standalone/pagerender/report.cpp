@@ -49,12 +49,16 @@ Report::Report(const QString &file, bool asJson, bool isQuiet, FILE *messages)
 void Report::problem(const player::Problem &problem)
 {
     const bool isError = problem.severity == player::Problem::Error;
+    ++m_count;
     m_errors += isError ? 1 : 0;
-    m_problems.append(QJsonObject{
-        {QStringLiteral("severity"), isError ? QStringLiteral("error") : QStringLiteral("warning")},
-        {QStringLiteral("place"), problem.place},
-        {QStringLiteral("reason"), problem.reason},
-        {QStringLiteral("remedy"), problem.remedy}});
+    if (m_asJson) {
+        m_problems.append(
+            QJsonObject{{QStringLiteral("severity"),
+                         isError ? QStringLiteral("error") : QStringLiteral("warning")},
+                        {QStringLiteral("place"), problem.place},
+                        {QStringLiteral("reason"), problem.reason},
+                        {QStringLiteral("remedy"), problem.remedy}});
+    }
     if (m_isQuiet && !isError) {
         return;
     }
@@ -80,12 +84,13 @@ void Report::problems(const player::Problems &problems)
 
 void Report::page(const WrittenPage &page)
 {
-    m_pages.append(QJsonObject{{QStringLiteral("place"), page.place},
-                               {QStringLiteral("page"), page.page},
-                               {QStringLiteral("file"), page.file},
-                               {QStringLiteral("width"), page.size.width()},
-                               {QStringLiteral("height"), page.size.height()}});
-    if (!m_isQuiet && !m_asJson) {
+    if (m_asJson) {
+        m_pages.append(QJsonObject{{QStringLiteral("place"), page.place},
+                                   {QStringLiteral("page"), page.page},
+                                   {QStringLiteral("file"), page.file},
+                                   {QStringLiteral("width"), page.size.width()},
+                                   {QStringLiteral("height"), page.size.height()}});
+    } else if (!m_isQuiet) {
         clearProgress();
         print(stdout, page.file + QLatin1Char('\n'));
     }

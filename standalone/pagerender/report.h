@@ -35,7 +35,7 @@ public:
     void progress(const QString &text);
 
     [[nodiscard]] int errorCount() const { return m_errors; }
-    [[nodiscard]] int problemCount() const { return m_problems.size(); }
+    [[nodiscard]] int problemCount() const { return m_count; }
 
     /** Prints what is due at the end. @p summary is for people, left out when empty. */
     void finish(const QString &summary);
@@ -49,7 +49,8 @@ private:
     FILE *m_messages;
     bool m_onTerminal;
     bool m_progressShown = false;
+    int m_count = 0;
     int m_errors = 0;
-    QJsonArray m_pages;
+    QJsonArray m_pages; ///< Only for a report in JSON, as m_problems are.
     QJsonArray m_problems;
 };

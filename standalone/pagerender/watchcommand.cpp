@@ -95,6 +95,7 @@ void ProgrammeWatch::reload()
         return; // something else in its folder
     }
     if (load()) {
+        m_writer.keepOnly(m_items);
         for (int i = 0; i < m_items.size(); ++i) {
             write(i);
         }

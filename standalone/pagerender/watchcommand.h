@@ -15,8 +15,8 @@
 
 /**
  * Keeps the page files of a programme up to date: writes those of an item anew when data that it
- * shows changes, and all of them when the programme file does. A programme file that cannot be read
- * is reported, and the pages of the one before stay.
+ * shows changes, and all of them when the programme file does; pages that are no more are removed.
+ * A programme file that cannot be read is reported, and the pages of the one before stay.
  */
 class ProgrammeWatch : public QObject
 {
