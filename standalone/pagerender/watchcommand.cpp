@@ -128,15 +128,9 @@ void ProgrammeWatch::write(int item)
     const player::ProgrammeItem &wanted = m_items.at(item);
     const sources::DataSnapshot data = m_data.snapshot();
     ItemRenderer renderer(wanted.node, wanted.place, m_line.size, data);
-    QSet<QString> shown;
     const QStringList names = m_data.names();
-    for (const QString &name : names) {
-        // Without any data it cannot be told what an item shows.
-        if (data.isEmpty() || renderer.dependsOn(name)) {
-            shown.insert(name);
-        }
-    }
-    m_shown[item] = shown;
+    // Without any data it cannot be told what an item shows.
+    m_shown[item] = data.isEmpty() ? QSet<QString>(names.begin(), names.end()) : renderer.sources();
     m_writer.write(&renderer, wanted.node->name(), wanted.place);
 }
 

@@ -255,10 +255,13 @@ QPair<int, int> BoundPages::rowsOf(int index)
     return {part.from, part.to};
 }
 
-bool BoundPages::usesSource(const QString &source) const
+QSet<QString> BoundPages::sources() const
 {
-    const bool isOfLines = state() == ItemTemplate::Bound && m_values.lines().source() == source;
-    return isOfLines || m_values.usedSources().contains(source);
+    QSet<QString> sources = m_values.usedSources();
+    if (state() == ItemTemplate::Bound) {
+        sources.insert(m_values.lines().source());
+    }
+    return sources;
 }
 
 QString BoundPages::filledText(const QString &html)

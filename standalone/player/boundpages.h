@@ -26,7 +26,8 @@ public:
     /** Unless it is ItemTemplate::Bound there are no pages. */
     [[nodiscard]] ItemTemplate::State state() const { return m_rows.state(); }
     [[nodiscard]] const ItemTemplate &rows() const { return m_rows; }
-    [[nodiscard]] bool usesSource(const QString &source) const;
+    /** The sources that it shows values of, or would if they had any. */
+    [[nodiscard]] QSet<QString> sources() const;
     /**
      * Text that is not bound as a table, with its fields, calculations and styles; the document
      * that it is loaded into gets the images of its fields then.

@@ -178,9 +178,9 @@ QVector<PageSlice> ItemRenderer::slices() const
     return m_isBound ? m_bound->slices() : m_slices;
 }
 
-bool ItemRenderer::dependsOn(const QString &source) const
+QSet<QString> ItemRenderer::sources() const
 {
-    return m_bound && m_bound->usesSource(source);
+    return m_bound ? m_bound->sources() : QSet<QString>();
 }
 
 QImage ItemRenderer::page(int index)

@@ -60,8 +60,11 @@ public:
      */
     [[nodiscard]] lctrlsex::ItemDocument &document();
     [[nodiscard]] QVector<lctrlsex::PageSlice> slices() const;
-    /** Whether the data of that source shows on the pages. */
-    [[nodiscard]] bool dependsOn(const QString &source) const;
+    /**
+     * The sources whose data shows on the pages, those that deliver nothing among them. None when
+     * there is no data at all: what the item would show is not looked for then.
+     */
+    [[nodiscard]] QSet<QString> sources() const;
     /** What shows behind the text; transparent where that depends on what lies below the item. */
     [[nodiscard]] QColor groundColor() const;
 

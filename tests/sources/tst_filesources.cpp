@@ -1,36 +1,12 @@
 #include "datasourceconfigmanager.h"
+#include "loopwatch.h"
 #include "sourcemanager.h"
 
-#include <QElapsedTimer>
 #include <QSaveFile>
 #include <QTemporaryDir>
 #include <QtTest>
 
 using namespace sources;
-
-namespace {
-
-/** Longest time that the event loop of this thread did not turn. */
-class LoopWatch
-{
-public:
-    LoopWatch()
-    {
-        m_since.start();
-        QObject::connect(&m_timer, &QTimer::timeout,
-                         [this] { m_longest = qMax(m_longest, m_since.restart()); });
-        m_timer.setTimerType(Qt::PreciseTimer);
-        m_timer.start(1);
-    }
-    [[nodiscard]] qint64 longest() const { return m_longest; }
-
-private:
-    QTimer m_timer;
-    QElapsedTimer m_since;
-    qint64 m_longest = 0;
-};
-
-} // namespace
 
 class TestFileSources : public QObject
 {

@@ -12,11 +12,14 @@ namespace live {
 /** An item without data, or with @p key a table with a line "name price" for each record. */
 inline QJsonObject item(const QString &name, const QString &key = QString())
 {
-    const QString table = QString(
-        "<html><body style=\"font-family:'DejaVu Sans'; font-size:12px; color:#ffffff\"><table "
-        "border=\"1\" width=\"120\" cellspacing=\"0\" cellpadding=\"2\">%1</table></body></html>");
-    const QString row =
-        QString("<tr><td width=\"60\">${name}</td><td width=\"60\">${price}</td></tr>");
+    const QString table = "<html><head><style type=\"text/css\">p, li { white-space: pre-wrap; }"
+                          "</style></head><body><table border=\"1\" width=\"120\" "
+                          "cellspacing=\"0\" cellpadding=\"2\" style=\" "
+                          "border-collapse:collapse;\">%1</table></body></html>";
+    const QString cell = "<td width=\"60\" style=\" border:1px solid #00ff00;\"><p style=\" "
+                         "margin-top:0px; margin-bottom:0px;\"><span style=\" font-family:'DejaVu "
+                         "Sans'; font-size:12px; color:#ffffff;\">${%1}</span></p></td>";
+    const QString row = "<tr>" + cell.arg("name") + cell.arg("price") + "</tr>";
     QJsonObject object{{"name", name}, {"document", key.isEmpty() ? name : table.arg(row)}};
     if (!key.isEmpty()) {
         object.insert("attributes", QJsonObject{{"TableType", 1},

@@ -297,12 +297,7 @@ player::ItemRenderer *ItemPages::renderer(LTextEffectNode *node)
             item.generation = m_nextGeneration++;
         }
         item.hadData = !m_data->snapshot().isEmpty();
-        item.sources.clear();
-        for (const sources::SourceSettings &source : m_data->sources()) {
-            if (item.renderer->dependsOn(source.name)) {
-                item.sources.insert(source.name);
-            }
-        }
+        item.sources = item.renderer->sources();
         item.counted = 0;
         item.isCounted = false;
     }
