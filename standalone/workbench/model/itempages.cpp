@@ -137,12 +137,24 @@ void ItemPages::invalidateBelow(LNode *node)
 
 void ItemPages::invalidate(Item *item)
 {
+    dropPages(item);
+    item->isChanged = true;
+    m_settle.start();
+}
+
+/** Its pages are never asked for again: data that changes often would fill the cache with them. */
+void ItemPages::dropPages(Item *item)
+{
+    const QList<QPair<quint64, int>> kept = m_pages.keys();
+    for (const QPair<quint64, int> &key : kept) {
+        if (key.first == item->generation) {
+            m_pages.remove(key);
+        }
+    }
     item->renderer.reset();
     item->generation = 0;
     item->isCounted = false;
-    item->isChanged = true;
     m_recent.removeAll(item->node.data());
-    m_settle.start();
 }
 
 ItemPages::Item &ItemPages::itemOf(LTextEffectNode *node)
@@ -189,11 +201,8 @@ void ItemPages::onDataChanged(const QStringList &names)
                         [&item](const QString &name) { return item.sources.contains(name); });
         // Without a generation it is known already that its pages are to be asked for.
         if (item.generation != 0 && (isConcerned || !item.hadData)) {
-            item.renderer.reset();
-            item.generation = 0;
-            item.isCounted = false;
+            dropPages(&item);
             item.isNew = true;
-            m_recent.removeAll(item.node.data());
         }
     }
     if (!m_fresh.isActive()) {

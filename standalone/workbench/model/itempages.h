@@ -80,6 +80,7 @@ private:
     void onAttributeChanged(LNode *node, const QString &key);
     void invalidateBelow(LNode *node);
     void invalidate(Item *item);
+    void dropPages(Item *item);
     Item &itemOf(LTextEffectNode *node);
     void forget(LNode *node);
     void announce();
