@@ -39,7 +39,9 @@ ProgrammeWatch::ProgrammeWatch(const CommandLine &line, Report *report)
     connect(&m_reload, &QTimer::timeout, this, &ProgrammeWatch::reload);
     connect(&m_data, &ProgrammeData::changed, this, &ProgrammeWatch::note);
     const auto later = [this] {
-        m_reload.start();
+        if (!m_reload.isActive()) { // a busy folder is not to put it off for ever
+            m_reload.start();
+        }
     };
     connect(&m_file, &QFileSystemWatcher::fileChanged, this, later);
     connect(&m_file, &QFileSystemWatcher::directoryChanged, this, later);

@@ -147,8 +147,8 @@ private slots:
     {
         using Record = LTableProperties;
         const QVector<QPair<int Record::*, int>> wrong{
-            {&Record::rows, 0},           {&Record::columns, -1},  {&Record::rows, 10001},
-            {&Record::rows, 0x7fffffff},  {&Record::width, 8193},  {&Record::cellPadding, -1},
+            {&Record::rows, 0},           {&Record::columns, -1},   {&Record::rows, 10001},
+            {&Record::rows, 0x7fffffff},  {&Record::width, 8193},   {&Record::cellPadding, -1},
             {&Record::borderWidth, 1000}, {&Record::columns, 10001}};
         Desk desk(2, 2);
         desk.place(0, 0);
