@@ -91,7 +91,9 @@ QString watchHelp()
         "moment. Runs until it is ended.\n"
         "\n"
         "  -o, --output, --item, --size, --data, --set, --lenient, -q, --quiet\n"
-        "                as of render, see pagerender help render\n");
+        "                as of render, see pagerender help render\n"
+        "  --record DIR  write what each source delivers into DIR/SOURCE.jsonl, which a source\n"
+        "                with \"replay\" plays again; recordings that are there go on\n");
 }
 
 CommandLine mistake(const QString &text)
@@ -148,7 +150,7 @@ QString readSize(const QString &text, QSize *size)
 }
 
 /** Names and kinds of the options; a command takes those that it lists. */
-void addOptions(QCommandLineParser *parser, bool forRender)
+void addOptions(QCommandLineParser *parser, CommandLine::Command command)
 {
     const auto add = [parser](const QStringList &names, const QString &value = QString()) {
         parser->addOption(QCommandLineOption(names, QString(), value));
@@ -160,7 +162,10 @@ void addOptions(QCommandLineParser *parser, bool forRender)
     add({QStringLiteral("json")});
     add({QStringLiteral("q"), QStringLiteral("quiet")});
     add({QStringLiteral("h"), QStringLiteral("help")});
-    if (forRender) {
+    if (command == CommandLine::Watch) {
+        add({QStringLiteral("record")}, QStringLiteral("folder"));
+    }
+    if (command != CommandLine::Check) {
         add({QStringLiteral("o"), QStringLiteral("output")}, QStringLiteral("folder"));
         add({QStringLiteral("lenient")});
     }
@@ -181,7 +186,7 @@ CommandLine readCommand(CommandLine::Command command, const QStringList &argumen
 {
     const bool forRender = command != CommandLine::Check;
     QCommandLineParser parser;
-    addOptions(&parser, forRender);
+    addOptions(&parser, command);
     // The parser takes the first argument for the program's name.
     const bool parsed = parser.parse(QStringList(QStringLiteral("pagerender")) + arguments);
     if (parser.isSet(QStringLiteral("help"))) {
@@ -204,6 +209,9 @@ CommandLine readCommand(CommandLine::Command command, const QStringList &argumen
     line.settings = parser.values(QStringLiteral("set"));
     line.asJson = parser.isSet(QStringLiteral("json"));
     line.isQuiet = parser.isSet(QStringLiteral("quiet"));
+    if (command == CommandLine::Watch) {
+        line.recordFolder = parser.value(QStringLiteral("record"));
+    }
     if (command == CommandLine::Watch && (line.asJson || line.programme == QLatin1String("-"))) {
         return mistake(line.asJson ? QStringLiteral("watch never ends, so it has no --json report")
                                    : QStringLiteral("standard input cannot be watched"));

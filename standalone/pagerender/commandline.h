@@ -17,6 +17,7 @@ struct CommandLine
     QSize size;             ///< In place of every item's own; invalid: their own.
     QStringList dataFiles;  ///< SOURCE=FILE, each.
     QStringList settings;   ///< source:key=value, each.
+    QString recordFolder;   ///< Watch: where recordings of the sources go; empty: none are made.
     bool isLenient = false; ///< Render and Watch: make pages although something is not as meant.
     bool asJson = false;
     bool isQuiet = false;

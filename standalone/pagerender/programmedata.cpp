@@ -53,6 +53,28 @@ bool ProgrammeData::start(const LControllerNode &programme)
     });
     list.erase(end, list.end());
     m_manager.setSources(list, context);
+    return record();
+}
+
+/** Begins a recording of each source where they are wanted; false when there is no folder for them.
+ */
+bool ProgrammeData::record()
+{
+    if (m_line.recordFolder.isEmpty()) {
+        return true;
+    }
+    if (!QDir().mkpath(m_line.recordFolder)) {
+        m_report->problem({Problem::Error, m_line.recordFolder,
+                           QStringLiteral("the folder for recordings cannot be made"),
+                           QStringLiteral("name a folder that you may write to")});
+        return false;
+    }
+    const QStringList running = names();
+    for (const QString &name : running) {
+        if (sources::DataSource *const source = m_manager.find(name)) {
+            source->recordTo(QDir(m_line.recordFolder).filePath(name + QStringLiteral(".jsonl")));
+        }
+    }
     return true;
 }
 

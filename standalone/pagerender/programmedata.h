@@ -39,6 +39,7 @@ signals:
     void changed(const QStringList &names);
 
 private:
+    [[nodiscard]] bool record();
     [[nodiscard]] bool isRead() const;
     void tellFailures(const QStringList &names);
 

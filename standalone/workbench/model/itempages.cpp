@@ -13,9 +13,6 @@
 #include <QElapsedTimer>
 #include <QSet>
 
-#include <algorithm>
-#include <utility>
-
 namespace workbench {
 
 namespace {
@@ -24,8 +21,6 @@ constexpr int SettleTime = 250;
 constexpr int LongestSettleTime = 2000;
 /** What changes within this time is shown at once together. */
 constexpr int FreshTime = 15;
-/** The longest that counting pages may keep the window waiting. */
-constexpr int CountTime = 6;
 constexpr int CacheBytes = 64 * 1024 * 1024;
 // A renderer holds a document that is laid out.
 constexpr int MostRenderers = 8;
@@ -186,79 +181,6 @@ void ItemPages::announce()
         publish();
     }
     for (const QPointer<LTextEffectNode> &node : qAsConst(changed)) {
-        if (node) {
-            emit pagesChanged(node);
-        }
-    }
-}
-
-/** New data is shown at once, and the files of the pages before stay until there are others. */
-void ItemPages::onDataChanged(const QStringList &names)
-{
-    for (Item &item : m_items) {
-        const bool isConcerned =
-            std::any_of(names.begin(), names.end(),
-                        [&item](const QString &name) { return item.sources.contains(name); });
-        // Without a generation it is known already that its pages are to be asked for.
-        if (item.generation != 0 && (isConcerned || !item.hadData)) {
-            dropPages(&item);
-            item.isNew = true;
-        }
-    }
-    if (!m_fresh.isActive()) {
-        m_fresh.start();
-    }
-}
-
-void ItemPages::announceData()
-{
-    QVector<QPointer<LTextEffectNode>> changed;
-    for (Item &item : m_items) {
-        if (std::exchange(item.isNew, false) && !item.isChanged) {
-            changed.append(item.node);
-        }
-    }
-    if (m_watched && changed.contains(m_watched)) {
-        publish();
-    }
-    for (const QPointer<LTextEffectNode> &node : qAsConst(changed)) {
-        if (node) {
-            emit pagesChanged(node);
-        }
-    }
-}
-
-/** Counts on for a moment; a later turn of the event loop goes on where it ends. */
-void ItemPages::count(Item *item)
-{
-    QElapsedTimer timer;
-    timer.start();
-    while (!item->isCounted && (item->counted == 0 || timer.elapsed() < CountTime)) {
-        item->isCounted = !item->renderer->hasPage(item->counted);
-        item->counted += item->isCounted ? 0 : 1;
-    }
-    if (!item->isCounted) {
-        m_counting.start();
-    }
-}
-
-void ItemPages::countOn()
-{
-    m_counting.stop();
-    QVector<QPointer<LTextEffectNode>> counted;
-    for (Item &item : m_items) {
-        if (item.renderer && !item.isCounted) {
-            count(&item);
-            if (item.isCounted) {
-                counted.append(item.node);
-            }
-        }
-    }
-    for (const QPointer<LTextEffectNode> &node : qAsConst(counted)) {
-        if (node && node == m_watched) {
-            node->SetPageCount(m_items[node].counted);
-            node->PageChanged();
-        }
         if (node) {
             emit pagesChanged(node);
         }
