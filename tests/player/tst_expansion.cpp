@@ -9,6 +9,7 @@
 
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QRandomGenerator>
 #include <QXmlStreamReader>
 #include <QtTest>
 
@@ -25,6 +26,7 @@ private slots:
     void paths_data();
     void paths();
     void escaping();
+    void valuesAreNeverMarkup();
 };
 
 static QByteArray contentOf(const QString &name)
@@ -215,6 +217,86 @@ void TestExpansion::escaping()
         QVERIFY(text.startsWith('a') && text.endsWith('b'));
     }
     QCOMPARE(escapedValue(QString(LongestValue + 1, 'x')).size(), LongestValue + 1); // one is "..."
+}
+
+/** Two thousand values that look like everything but text show as what they are. */
+void TestExpansion::valuesAreNeverMarkup()
+{
+    const QStringList bits = {"<img src=\"x\">",
+                              "</td></tr></table>",
+                              "&amp;",
+                              "&#60;",
+                              "]]>",
+                              "${0}",
+                              "${a}",
+                              "${table:1}",
+                              "\"",
+                              "'",
+                              ";",
+                              ":",
+                              "/",
+                              "<!--",
+                              "-->",
+                              "<?xml?>",
+                              "<![CDATA[",
+                              "bindStyle;1;x",
+                              "data://bindKey/s/a.png",
+                              QString(QChar(0)),
+                              QString(QChar(0xffff)),
+                              QString(QChar(0xd800)),
+                              "\n",
+                              "\t",
+                              "plain ",
+                              QString(QChar(0x6587))};
+    QRandomGenerator random(11);
+    QVector<sources::DataValue> lines;
+    QStringList values;
+    for (int i = 0; i < 2000; ++i) {
+        QString value;
+        for (int bit = random.bounded(1, 6); bit > 0; --bit) {
+            value += random.bounded(4) == 0 ? QString(QChar(ushort(random.bounded(0x10000))))
+                                            : bits.at(random.bounded(bits.size()));
+        }
+        values.append(value);
+        lines.append(sources::DataValue::fromRecord({{"a", sources::DataValue::fromText(value)},
+                                                     {"b", sources::DataValue::fromText("1")}}));
+    }
+    sources::DataSnapshot data;
+    data["s"].value = sources::DataValue::fromRecord({{"m", sources::DataValue::fromList(lines)}});
+    StoredItem item;
+    item.tableType = 1;
+    item.bindKey = "s:m.{a,b}[]";
+    item.placeholder = "table:1";
+    item.content = "<html><body><table width=\"200\">${table:1}</table></body></html>";
+    item.rowTemplate = "<tr><td width=\"100\"><p><a href=\"bindStyle;1;x\">${a}</a></p></td>"
+                       "<td width=\"100\"><p>${b}</p></td></tr>";
+    item.styles =
+        R"([{"id":"1","name":"x","conditions":[{"key":"s:a","type":0,)"
+        R"("expression":["!=x"],"fontStyle":{"fontName":"DejaVu Sans","fontSize":9}}]}])";
+    lctrlsex::PageStyle style;
+    style.size = {256, 64};
+    BoundPages pages(item, data, style);
+    const ItemTemplate &rows = pages.rows();
+    QCOMPARE(rows.rowCount(), values.size());
+    QXmlStreamReader reader("<t>" + rows.expandedRows(0, rows.rowCount()) + "</t>");
+    int cells = 0;
+    QString text;
+    while (!reader.atEnd()) {
+        reader.readNext();
+        if (reader.isStartElement() && reader.name() == QLatin1String("td")) {
+            text.clear();
+        } else if (reader.isStartElement() && reader.name() == QLatin1String("br")) {
+            text += QChar::LineSeparator;
+        } else if (reader.isCharacters()) {
+            text += reader.text();
+        } else if (reader.isEndElement() && reader.name() == QLatin1String("td")) {
+            const QString expected = cells % 2 == 1 ? "1" : shownText(values.at(cells / 2));
+            QCOMPARE(text.remove(QChar(0x200b)), QString(expected).remove(QChar(0x200b)));
+            ++cells;
+        }
+    }
+    QVERIFY2(!reader.hasError(), qPrintable(reader.errorString()));
+    QCOMPARE(cells, 2 * values.size());
 }
 
 QTEST_MAIN(TestExpansion)
