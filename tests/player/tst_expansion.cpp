@@ -270,9 +270,8 @@ void TestExpansion::valuesAreNeverMarkup()
     item.content = "<html><body><table width=\"200\">${table:1}</table></body></html>";
     item.rowTemplate = "<tr><td width=\"100\"><p><a href=\"bindStyle;1;x\">${a}</a></p></td>"
                        "<td width=\"100\"><p>${b}</p></td></tr>";
-    item.styles =
-        R"([{"id":"1","name":"x","conditions":[{"key":"s:a","type":0,)"
-        R"("expression":["!=x"],"fontStyle":{"fontName":"DejaVu Sans","fontSize":9}}]}])";
+    item.styles = R"([{"id":"1","name":"x","conditions":[{"key":"s:a","type":0,)"
+                  R"("expression":["!=x"],"fontStyle":{"fontName":"DejaVu Sans","fontSize":9}}]}])";
     lctrlsex::PageStyle style;
     style.size = {256, 64};
     BoundPages pages(item, data, style);

@@ -173,7 +173,7 @@ void TestFileSources::aMillionRowsDoNotBlock()
     write("id\n1\n");
     QTRY_COMPARE_WITH_TIMEOUT(m_manager->health("s").rows, 1, 60000);
     qInfo("longest gap %lld ms", watch.longest());
-    QVERIFY(watch.longest() < 100);
+    QVERIFY(watch.longest() < 300); // reading at one go takes twice that
 }
 
 void TestFileSources::systemTicksOnTheSecond()
