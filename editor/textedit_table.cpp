@@ -1,4 +1,5 @@
 #include "edittoolbar.h"
+#include "lcolor.h"
 #include "lrichviewedit.h"
 #include "ltexteffectnode.h"
 #include "nodecall.h"
@@ -9,6 +10,7 @@
 #include "table/tablemenu.h"
 #include "table/tablequestions.h"
 #include "textedit.h"
+#include "toolbarformat.h"
 
 #include <QAction>
 #include <QMenu>
@@ -63,6 +65,11 @@ void TextEdit::InsertTable()
         lctrlsex::askTableProperties(this, tr("Insert Table"), m_view->itemSize(), &record, true);
     if (self == nullptr || !isAttached(attachment) || !isAccepted) {
         return;
+    }
+    const QColor shown = lctrlsex::shownOn(BGR_TO_QColor(record.backgroundColor), m_textColor);
+    if (shown != m_textColor) {
+        m_textColor = shown; // what is typed into the cells is to be seen
+        restoreTypingFormat();
     }
     const int align = nodeCall(m_node, &LTextEffectNode::GetContentHAlign);
     if (m_table->insert(record, Qt::Alignment(align))) {

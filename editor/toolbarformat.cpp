@@ -70,4 +70,13 @@ bool isInvisible(const QTextCharFormat &format)
     return format.foreground().color() == Qt::black && format.background().color() == Qt::black;
 }
 
+QColor shownOn(const QColor &ground, const QColor &text)
+{
+    constexpr int leastDifference = 60; // of 255 steps of lightness
+    if (qAbs(qGray(ground.rgb()) - qGray(text.rgb())) >= leastDifference) {
+        return text;
+    }
+    return qGray(ground.rgb()) < 128 ? QColor(Qt::white) : QColor(0x10, 0x10, 0x10);
+}
+
 } // namespace lctrlsex

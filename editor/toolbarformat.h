@@ -35,5 +35,10 @@ struct ToolbarFormat
  * the format of an emptied document.
  */
 [[nodiscard]] bool isInvisible(const QTextCharFormat &format);
+/**
+ * @p text where it can be told from @p ground; else a colour that can: white, or the darkest grey
+ * that isInvisible() does not take for a missing colour.
+ */
+[[nodiscard]] QColor shownOn(const QColor &ground, const QColor &text);
 
 } // namespace lctrlsex

@@ -92,6 +92,8 @@ void TestTables::insertsAndModifies()
     QVERIFY(insert.wasAsked());
     QCOMPARE(tableOf(item.view)->rows(), 2);
     QCOMPARE(tableOf(item.view)->columns(), 3);
+    // White letters would not show on the white ground of a new table.
+    QVERIFY(item.view->currentCharFormat().foreground().color().lightness() < 128);
     EditorFixture::settle();
     QCOMPARE(item.node->GetTableType(), 1);
     QVERIFY(item.view->document()->availableUndoSteps() > steps);
