@@ -177,10 +177,15 @@ void ItemPages::announce()
             changed.append(item.node);
         }
     }
+    tell(changed);
+}
+
+void ItemPages::tell(const QVector<QPointer<LTextEffectNode>> &changed)
+{
     if (m_watched && changed.contains(m_watched)) {
         publish();
     }
-    for (const QPointer<LTextEffectNode> &node : qAsConst(changed)) {
+    for (const QPointer<LTextEffectNode> &node : changed) {
         if (node) {
             emit pagesChanged(node);
         }

@@ -84,6 +84,7 @@ private:
     Item &itemOf(LTextEffectNode *node);
     void forget(LNode *node);
     void announce();
+    void tell(const QVector<QPointer<LTextEffectNode>> &changed);
     void onDataChanged(const QStringList &names);
     void announceData();
     void count(Item *item);

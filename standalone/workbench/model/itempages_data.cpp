@@ -44,14 +44,7 @@ void ItemPages::announceData()
             changed.append(item.node);
         }
     }
-    if (m_watched && changed.contains(m_watched)) {
-        publish();
-    }
-    for (const QPointer<LTextEffectNode> &node : qAsConst(changed)) {
-        if (node) {
-            emit pagesChanged(node);
-        }
-    }
+    tell(changed);
 }
 
 /** Counts on for a moment; a later turn of the event loop goes on where it ends. */
