@@ -129,9 +129,11 @@ QString TextEdit::UnifyTableColumnWidths(const QString &html) const
                                  [this, attachment] { return isAttached(attachment); });
 }
 
-void TextEdit::ProcessSingleTable(QDomElement table) const
+// An element is a handle, passed by value as everywhere in its library.
+void TextEdit::ProcessSingleTable(
+    QDomElement table) const // NOLINT(performance-unnecessary-value-param)
 {
-    lctrlsex::unifyTable(std::move(table));
+    lctrlsex::unifyTable(table);
 }
 
 void TextEdit::ONDataSourceNameChanged(QAction *action)

@@ -12,7 +12,7 @@ using sources::DataValue;
 
 namespace {
 
-constexpr qint64 LargestFile = 256 * 1024 * 1024;
+constexpr qint64 LargestFile = qint64(256) * 1024 * 1024;
 
 /** The name and the text around the first "=" behind @p from; false without one. */
 bool divide(const QString &text, int from, QString *name, QString *value)

@@ -68,8 +68,9 @@ void stretchTables(QTextDocument *document, int height)
                 const qreal top = paddingOf(format, QTextFormat::TableCellTopPadding, padding);
                 const qreal bottom =
                     paddingOf(format, QTextFormat::TableCellBottomPadding, padding);
-                format.setTopPadding(top + more / 2);
-                format.setBottomPadding(bottom + more - more / 2);
+                const int above = more / 2;
+                format.setTopPadding(top + above);
+                format.setBottomPadding(bottom + more - above);
                 cell.setFormat(format);
             }
         }

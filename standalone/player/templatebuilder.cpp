@@ -214,7 +214,7 @@ void TemplateBuilder::setWidths(int first, int tableWidth)
                           2 * pixelsOf(tag, QLatin1String("cellpadding"), 1));
     const QVector<QVector<int>> widths = cellWidths(m_extents.mid(first), tableWidth, joint);
     for (int i = 0; i < widths.size(); ++i) {
-        m_made->m_rows[size_t(first + i)].setCellWidths(widths.at(i));
+        m_made->m_rows[size_t(first) + size_t(i)].setCellWidths(widths.at(i));
     }
 }
 
