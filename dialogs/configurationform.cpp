@@ -8,6 +8,7 @@
 #include <QDialogButtonBox>
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QLabel>
 #include <QPushButton>
 #include <QScreen>
 #include <QSettings>
@@ -126,6 +127,36 @@ QTreeWidgetItem *rowOf(const QObject *sender, const QTreeWidget *tree)
         }
     }
     return nullptr;
+}
+
+void setEmptyHint(QTreeWidget *tree, const QString &hint)
+{
+    auto *label = new QLabel(hint, tree->viewport());
+    label->setAlignment(Qt::AlignCenter);
+    label->setWordWrap(true);
+    label->setEnabled(false);
+    auto *layout = new QVBoxLayout(tree->viewport());
+    layout->addWidget(label);
+    const auto show = [tree, label] {
+        label->setVisible(tree->topLevelItemCount() == 0);
+    };
+    for (auto signal : {&QAbstractItemModel::rowsInserted, &QAbstractItemModel::rowsRemoved}) {
+        QObject::connect(tree->model(), signal, label, show);
+    }
+    QObject::connect(tree->model(), &QAbstractItemModel::modelReset, label, show);
+}
+
+void lightenOnDark(QWidget *widget)
+{
+    if (QApplication::palette().color(QPalette::Window).lightness() >= 128) {
+        return;
+    }
+    const QPalette light(QColor(239, 239, 239), Qt::white);
+    widget->setPalette(light);
+    const QList<QWidget *> children = widget->findChildren<QWidget *>();
+    for (QWidget *child : children) {
+        child->setPalette(light);
+    }
 }
 
 void fitToScreen(QDialog *dialog, const QSize &preferred)

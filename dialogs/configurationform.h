@@ -41,6 +41,15 @@ struct ConfigurationForm
 /** The row of @p sender's property "rowItem"; null when it is no row of @p tree any more. */
 [[nodiscard]] QTreeWidgetItem *rowOf(const QObject *sender, const QTreeWidget *tree);
 
+/** Says @p hint in the middle of @p tree while it has no rows. */
+void setEmptyHint(QTreeWidget *tree, const QString &hint);
+
+/**
+ * Where the application has dark colours, gives @p widget and everything in it light ones, for a
+ * place with a white ground. One by one, because a palette does not reach what has a style sheet.
+ */
+void lightenOnDark(QWidget *widget);
+
 /** Gives @p dialog its @p preferred size, or that of its screen when that is smaller. */
 void fitToScreen(QDialog *dialog, const QSize &preferred);
 

@@ -1,0 +1,10 @@
+#include "fullcelleditordelegate.h"
+
+#include <QWidget>
+
+void FullCellEditorDelegate::updateEditorGeometry(QWidget *editor,
+                                                  const QStyleOptionViewItem &option,
+                                                  const QModelIndex & /*index*/) const
+{
+    editor->setGeometry(option.rect);
+}
