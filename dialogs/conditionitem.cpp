@@ -25,6 +25,7 @@ ConditionItem::ConditionItem(const QString &name, ConditionRow condition)
     : ConditionItem(std::move(condition))
 {
     setText(NameColumn, name);
+    setText(SerialColumn, QStringLiteral("1"));
     setFlags(flags() | Qt::ItemIsEditable);
     setChildIndicatorPolicy(QTreeWidgetItem::ShowIndicator);
 }

@@ -229,18 +229,23 @@ void LConditionalStyling::onDeleteButtonClicked()
 
 void LConditionalStyling::deleteRow(ConditionItem *row)
 {
-    QTreeWidgetItem *const parent = row->parent();
-    if (parent != nullptr) {
-        delete parent->takeChild(parent->indexOfChild(row));
-        numberRows(parent);
+    QTreeWidgetItem *const item = row->parent();
+    if (item != nullptr) {
+        const int index = item->indexOfChild(row);
+        delete item->takeChild(index);
+        numberRows(item);
+        m_tree->setCurrentItem(index < item->childCount() ? item->child(index) : item);
     } else if (row->childCount() > 0) {
         const std::unique_ptr<ConditionItem> next(lctrlsex::childOf(row, 0));
         row->removeChild(next.get());
         row->row = std::make_shared<ConditionRow>(lctrlsex::promoted(*next->row, *row->row));
         m_cells->remake(row);
         numberRows(row);
+        m_tree->setCurrentItem(row);
     } else {
-        delete m_tree->takeTopLevelItem(m_tree->indexOfTopLevelItem(row));
+        const int index = m_tree->indexOfTopLevelItem(row);
+        delete m_tree->takeTopLevelItem(index);
+        m_tree->setCurrentItem(itemAt(qMin(index, m_tree->topLevelItemCount() - 1)));
     }
     m_clipboard->refresh();
     scheduleTrial();
