@@ -162,6 +162,84 @@
     </message>
 </context>
 <context>
+    <name>ConfigurationClipboard</name>
+    <message>
+        <source>Copy</source>
+        <translation>复制</translation>
+    </message>
+    <message>
+        <source>Copy All</source>
+        <translation>全部复制</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>粘贴</translation>
+    </message>
+    <message>
+        <source>Cover</source>
+        <translation>覆盖</translation>
+    </message>
+    <message>
+        <source>Delete All</source>
+        <translation>全部删除</translation>
+    </message>
+    <message>
+        <source>Please select at least one configuration item to copy</source>
+        <translation>请至少选择一个要复制的配置项</translation>
+    </message>
+    <message>
+        <source>No configuration items to copy</source>
+        <translation>没有可复制的配置项</translation>
+    </message>
+    <message>
+        <source>No data in clipboard</source>
+        <translation>剪贴板中没有数据</translation>
+    </message>
+    <message>
+        <source>Are you sure you want to paste %1 configuration item(s) from clipboard?</source>
+        <translation>确定要从剪贴板粘贴 %1 个配置项吗？</translation>
+    </message>
+    <message>
+        <source>Failed to paste configuration items</source>
+        <translation>粘贴配置项失败</translation>
+    </message>
+    <message>
+        <source>Are you sure you want to override all configuration items?</source>
+        <translation>确定要覆盖所有配置项吗？</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>删除</translation>
+    </message>
+    <message>
+        <source>Do you want to delete all configuration items?</source>
+        <translation>要删除所有配置项吗？</translation>
+    </message>
+    <message>
+        <source>Append %1 configuration items</source>
+        <translation>追加 %1 个配置项</translation>
+    </message>
+    <message>
+        <source>Paste %1 configuration items (will overwrite existing data)</source>
+        <translation>粘贴 %1 个配置项（将覆盖现有数据）</translation>
+    </message>
+</context>
+<context>
+    <name>ConfigurationForm</name>
+    <message>
+        <source>Add configuration item</source>
+        <translation>添加配置项</translation>
+    </message>
+    <message>
+        <source>Add conditions for this configuration item</source>
+        <translation>为此配置项添加条件</translation>
+    </message>
+    <message>
+        <source>Delete this row</source>
+        <translation>删除此行</translation>
+    </message>
+</context>
+<context>
     <name>DocumentStorage</name>
     <message>
         <source>The stored text is cut off at character %1; restore it from a copy.</source>
@@ -557,6 +635,97 @@
     </message>
 </context>
 <context>
+    <name>LConditionalStyling</name>
+    <message>
+        <source>Name</source>
+        <translation>名称</translation>
+    </message>
+    <message>
+        <source>Input Source</source>
+        <translation>输入源</translation>
+    </message>
+    <message>
+        <source>Serial Number</source>
+        <translation>序号</translation>
+    </message>
+    <message>
+        <source>Expression Type</source>
+        <translation>表达式类型</translation>
+    </message>
+    <message>
+        <source>Expression</source>
+        <translation>表达式</translation>
+    </message>
+    <message>
+        <source>Font</source>
+        <translation>字体</translation>
+    </message>
+    <message>
+        <source>Font Size</source>
+        <translation>字号</translation>
+    </message>
+    <message>
+        <source>Color</source>
+        <translation>颜色</translation>
+    </message>
+    <message>
+        <source>BackgroundColor</source>
+        <translation>背景颜色</translation>
+    </message>
+    <message>
+        <source>Bold</source>
+        <translation>粗体</translation>
+    </message>
+    <message>
+        <source>Italic</source>
+        <translation>斜体</translation>
+    </message>
+    <message>
+        <source>Underline</source>
+        <translation>下划线</translation>
+    </message>
+    <message>
+        <source>Operation</source>
+        <translation>操作</translation>
+    </message>
+    <message>
+        <source>Conditional Styling</source>
+        <translation>条件样式</translation>
+    </message>
+    <message>
+        <source>No conditional styles yet. &quot;Add configuration item&quot; makes the first one.</source>
+        <translation>还没有条件样式。点击“添加配置项”创建第一个。</translation>
+    </message>
+    <message>
+        <source>Configuration item</source>
+        <translation>配置项</translation>
+    </message>
+    <message>
+        <source>Select Color</source>
+        <translation>选择颜色</translation>
+    </message>
+    <message>
+        <source>Duplicate Name</source>
+        <translation>名称重复</translation>
+    </message>
+    <message>
+        <source>Name must be unique, please enter a different name!</source>
+        <translation>名称必须唯一，请输入其他名称！</translation>
+    </message>
+    <message>
+        <source>Invalid Name</source>
+        <translation>名称无效</translation>
+    </message>
+    <message>
+        <source>Name contains illegal characters.</source>
+        <translation>名称包含非法字符。</translation>
+    </message>
+    <message>
+        <source>Choose a configuration item to try a value</source>
+        <translation>选择一个配置项以测试数值</translation>
+    </message>
+</context>
+<context>
     <name>LEffectNode</name>
     <message>
         <source>No Effect</source>
@@ -848,6 +1017,18 @@
     <message>
         <source>The pages move by without a stop; the display effect is the direction</source>
         <translation>页面不停顿地连续移动；显示效果决定移动方向</translation>
+    </message>
+    <message>
+        <source>What this item stores cannot be read (byte %1: %2). It stays as it is until you accept the dialog with changes.</source>
+        <translation>无法读取此节目项存储的内容（第 %1 字节：%2）。在您修改并确认对话框之前，它保持不变。</translation>
+    </message>
+    <message>
+        <source>A copy is kept in %1</source>
+        <translation>副本保存在 %1</translation>
+    </message>
+    <message>
+        <source>No copy could be written to %1: free some space or allow writing there, then try again.</source>
+        <translation>无法将副本写入 %1：请释放一些空间或允许写入，然后重试。</translation>
     </message>
 </context>
 <context>
@@ -1949,6 +2130,21 @@
     </message>
 </context>
 <context>
+    <name>lctrlsex::ConditionCells</name>
+    <message>
+        <source>No data source</source>
+        <translation>没有数据源</translation>
+    </message>
+    <message>
+        <source>Choose a field</source>
+        <translation>选择字段</translation>
+    </message>
+    <message>
+        <source>%1 (not available)</source>
+        <translation>%1（不可用）</translation>
+    </message>
+</context>
+<context>
     <name>lctrlsex::EditToolBar</name>
     <message>
         <source>&amp;Color...</source>
@@ -2088,6 +2284,49 @@
     </message>
 </context>
 <context>
+    <name>lctrlsex::ExpressionEditor</name>
+    <message>
+        <source>Single-value comparison</source>
+        <translation>单值比较</translation>
+    </message>
+    <message>
+        <source>Open interval (a,b)</source>
+        <translation>开区间 (a,b)</translation>
+    </message>
+    <message>
+        <source>Closed interval [a,b]</source>
+        <translation>闭区间 [a,b]</translation>
+    </message>
+    <message>
+        <source>Closed left and open right [a,b)</source>
+        <translation>左闭右开 [a,b)</translation>
+    </message>
+    <message>
+        <source>Open left and close right (a,b]</source>
+        <translation>左开右闭 (a,b]</translation>
+    </message>
+    <message>
+        <source>Regular matching</source>
+        <translation>正则匹配</translation>
+    </message>
+    <message>
+        <source>Enter a numeric value</source>
+        <translation>输入数值</translation>
+    </message>
+    <message>
+        <source>Start value</source>
+        <translation>起始值</translation>
+    </message>
+    <message>
+        <source>End value</source>
+        <translation>结束值</translation>
+    </message>
+    <message>
+        <source>Comparison</source>
+        <translation>比较</translation>
+    </message>
+</context>
+<context>
     <name>lctrlsex::ItemDocument</name>
     <message>
         <source>the image data is not Base64; insert the image again</source>
@@ -2115,6 +2354,49 @@
     <message>
         <source>Close this notice</source>
         <translation>关闭此通知</translation>
+    </message>
+</context>
+<context>
+    <name>lctrlsex::TrialPanel</name>
+    <message>
+        <source>Live &amp;value of the input source</source>
+        <translation>输入源的实时值(&amp;V)</translation>
+    </message>
+    <message>
+        <source>Serial Number</source>
+        <translation>序号</translation>
+    </message>
+    <message>
+        <source>Expression</source>
+        <translation>表达式</translation>
+    </message>
+    <message>
+        <source>Why</source>
+        <translation>原因</translation>
+    </message>
+    <message>
+        <source>&amp;Test value</source>
+        <translation>测试值(&amp;T)</translation>
+    </message>
+    <message>
+        <source>Type a value to see which condition holds</source>
+        <translation>输入一个值，查看哪个条件成立</translation>
+    </message>
+    <message>
+        <source>%1: condition %2 applies</source>
+        <translation>%1：条件 %2 生效</translation>
+    </message>
+    <message>
+        <source>%1: no condition holds</source>
+        <translation>%1：没有条件成立</translation>
+    </message>
+    <message>
+        <source>The text keeps its own style</source>
+        <translation>文本保持原有样式</translation>
+    </message>
+    <message>
+        <source>(empty)</source>
+        <translation>（空）</translation>
     </message>
 </context>
 <context>

@@ -15,7 +15,7 @@ update() {
     fi
     shift
     /usr/lib/qt5/bin/lupdate -silent -locations none -no-obsolete "$@" \
-        editor view plugin records standalone/lcommon standalone/player standalone/sources standalone/workbench \
+        dialogs editor view plugin records standalone/lcommon standalone/player standalone/sources standalone/workbench \
         -ts "$folder/$catalogue"
 }
 
