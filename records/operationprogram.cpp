@@ -19,19 +19,6 @@ struct OperationNames
     QSet<QString> steps;
 };
 
-QString withoutBraces(QString text)
-{
-    if (text.endsWith(QLatin1Char('}'))) {
-        text.chop(1);
-    } else if (text.endsWith(QLatin1String("}\n"))) { // where the pattern's "$" holds too
-        text.remove(text.size() - 2, 1);
-    }
-    if (text.startsWith(QLatin1String("${"))) {
-        text.remove(0, 2);
-    }
-    return text;
-}
-
 OperationProblem flawOf(const QString &name, const QString &own, const OperationNames &names)
 {
     if (name == own) {
@@ -44,7 +31,7 @@ OperationArgument compileArgument(const QString &text, const QString &step,
                                   const OperationNames &names)
 {
     OperationArgument argument;
-    argument.written = withoutBraces(text);
+    argument.written = argumentName(text);
     argument.index = names.variables.value(argument.written, -1);
     if (argument.index >= 0) {
         // Kept on purpose because values are data: one that begins with "var" names no step.
@@ -83,6 +70,19 @@ OperationStep compileStep(const CalculationStep &given, const OperationNames &na
 }
 
 } // namespace
+
+QString argumentName(QString text)
+{
+    if (text.endsWith(QLatin1Char('}'))) {
+        text.chop(1);
+    } else if (text.endsWith(QLatin1String("}\n"))) { // where the pattern's "$" holds too
+        text.remove(text.size() - 2, 1);
+    }
+    if (text.startsWith(QLatin1String("${"))) {
+        text.remove(0, 2);
+    }
+    return text;
+}
 
 std::optional<int> integerOf(const QString &text)
 {

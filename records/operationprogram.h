@@ -41,6 +41,9 @@ struct OperationStep
     std::vector<OperationArgument> arguments;
 };
 
+/** What an argument is once a leading "${" and a trailing "}" are dropped. */
+[[nodiscard]] QString argumentName(QString text);
+
 /** The steps of @p calculation; @p variables are the names of the values that will be given. */
 [[nodiscard]] std::vector<OperationStep> compileSteps(const CalculationCondition &calculation,
                                                       const QVector<QString> &variables);

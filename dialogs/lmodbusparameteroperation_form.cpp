@@ -1,0 +1,143 @@
+#include "lmodbusparameteroperation.h"
+
+#include "configurationclipboard.h"
+#include "configurationform.h"
+#include "emptyhint.h"
+#include "operationcells.h"
+#include "operationitems.h"
+#include "settingstatustips.h"
+#include "treecells.h"
+
+#include <QCursor>
+#include <QDialogButtonBox>
+#include <QEvent>
+#include <QHeaderView>
+#include <QPushButton>
+#include <QShortcut>
+#include <QTreeWidget>
+
+using namespace lctrlsex;
+
+static constexpr QSize preferredSize(1200, 640);
+
+void LModbusParameterOperation::build()
+{
+    setWindowTitle(tr("Conditional Operation"));
+    const ConfigurationForm form(this,
+                                 {tr("ConfigName"), tr("Result"), tr("Expression Name"),
+                                  tr("Selection Operator"), tr("Expression"), tr("Operation")});
+    m_tree = form.tree;
+    m_buttons = form.buttonBox;
+    m_cells = new OperationCells(m_tree, this);
+    m_rows = new VisibleRows(m_tree, [this](QTreeWidgetItem *row) { m_cells->make(row); });
+    m_items = new OperationItems(m_tree);
+    m_clipboard = new ConfigurationClipboard(m_tree, m_items);
+    m_tips = new SettingStatusTips(this);
+    showWhileEmpty(m_tree, tr("No configuration item yet. “Add configuration item” makes one."));
+    m_clipboard->connectActions(this, {SLOT(OnCopySelectAction()), SLOT(OnCopyAllAction()),
+                                       SLOT(OnPasteAction()), SLOT(OnCoverAction()),
+                                       SLOT(OnDeleteAllAction())});
+    connect(form.addButton, &QPushButton::clicked, this,
+            &LModbusParameterOperation::onAddRootButtonClicked);
+    connect(m_tree, &QTreeWidget::customContextMenuRequested, this,
+            &LModbusParameterOperation::ShowContextMenu);
+    connect(m_cells, &OperationCells::nameEdited, this, &LModbusParameterOperation::onNameEdited);
+    connect(m_cells, &OperationCells::placesClamped, this,
+            [this] { m_tips->showTip(decimalRangeNotice()); });
+    auto *remove = new QShortcut(QKeySequence::Delete, m_tree);
+    remove->setContext(Qt::WidgetShortcut);
+    connect(remove, &QShortcut::activated, this, &LModbusParameterOperation::removeSelected);
+    setColumns();
+    showColors();
+    fitToScreen(this, preferredSize);
+}
+
+void LModbusParameterOperation::setColumns()
+{
+    QHeaderView *header = m_tree->header();
+    header->setStretchLastSection(false);
+    header->setSectionResizeMode(OperationColumn::Arguments, QHeaderView::Stretch);
+    m_tree->setEditTriggers(QAbstractItemView::DoubleClicked | QAbstractItemView::EditKeyPressed);
+    m_tree->setColumnWidth(OperationColumn::Name, 250);
+    m_tree->setColumnWidth(OperationColumn::Result, 250);
+    m_tree->setColumnWidth(OperationColumn::StepName, 150);
+    m_tree->setColumnWidth(OperationColumn::Operator,
+                           header->sectionSizeHint(OperationColumn::Operator));
+    m_tree->setColumnWidth(OperationColumn::Buttons, 60);
+    for (int column = 0; column < m_tree->columnCount(); ++column) {
+        m_tree->headerItem()->setToolTip(column, m_tree->headerItem()->text(column));
+    }
+}
+
+/** What is selected keeps the colours of its texts, which the cells paint themselves. */
+void LModbusParameterOperation::showColors()
+{
+    QColor selected = palette().color(QPalette::Highlight);
+    selected.setAlpha(60);
+    m_tree->setStyleSheet(QStringLiteral("QTreeWidget { border: none; gridline-color: transparent; "
+                                         "background: transparent; "
+                                         "selection-background-color: %1; "
+                                         "selection-color: palette(window-text); }")
+                              .arg(selected.name(QColor::HexArgb)));
+}
+
+void LModbusParameterOperation::changeEvent(QEvent *event)
+{
+    QDialog::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange) {
+        showColors();
+    }
+}
+
+bool LModbusParameterOperation::focusNextPrevChild(bool next)
+{
+    const auto make = [this](QTreeWidgetItem *row) {
+        m_cells->make(row);
+    };
+    const QWidget *focused = focusWidget();
+    QPushButton *first = m_buttons->button(QDialogButtonBox::Ok);
+    if (focused != nullptr && m_tree->viewport()->isAncestorOf(focused)) {
+        if (!focusNextCell(m_tree, make, next)) {
+            (next ? static_cast<QWidget *>(first) : m_tree)
+                ->setFocus(next ? Qt::TabFocusReason : Qt::BacktabFocusReason);
+        }
+        return true;
+    }
+    const bool isAtTree = next ? focused == m_tree : focused == first;
+    return (isAtTree && focusNextCell(m_tree, make, next)) || QDialog::focusNextPrevChild(next);
+}
+
+void LModbusParameterOperation::ShowContextMenu()
+{
+    const QRect shown = m_tree->viewport()->rect();
+    const QPoint pointer = m_tree->viewport()->mapFromGlobal(QCursor::pos());
+    const QPoint row = m_tree->visualItemRect(m_tree->currentItem()).center();
+    m_clipboard->showMenu(shown.contains(pointer) ? pointer
+                          : shown.contains(row)   ? row
+                                                  : shown.center());
+}
+
+void LModbusParameterOperation::OnCopySelectAction()
+{
+    m_clipboard->copySelected();
+}
+
+void LModbusParameterOperation::OnCopyAllAction()
+{
+    m_clipboard->copyAll();
+}
+
+void LModbusParameterOperation::OnPasteAction()
+{
+    m_clipboard->paste();
+}
+
+void LModbusParameterOperation::OnCoverAction()
+{
+    m_clipboard->cover();
+}
+
+void LModbusParameterOperation::OnDeleteAllAction()
+{
+    m_clipboard->deleteAll();
+}
