@@ -55,7 +55,7 @@ ConditionCells::ConditionCells(QTreeWidget *tree, QObject *dialog, const Slots &
 
 void ConditionCells::make(ConditionItem *item)
 {
-    if (m_tree->itemWidget(item, OperationColumn) != nullptr) {
+    if (m_tree->itemWidget(item, ButtonColumn) != nullptr) {
         return;
     }
     if (item->parent() == nullptr) {
@@ -74,7 +74,7 @@ void ConditionCells::make(ConditionItem *item)
 
 void ConditionCells::remake(ConditionItem *item)
 {
-    if (m_tree->itemWidget(item, OperationColumn) != nullptr) {
+    if (m_tree->itemWidget(item, ButtonColumn) != nullptr) {
         for (int column = SourceColumn; column < ConditionColumnCount; ++column) {
             m_tree->removeItemWidget(item, column);
         }
@@ -234,7 +234,7 @@ void ConditionCells::makeButtons(ConditionItem *item)
     connect(remove, SIGNAL(clicked()), m_dialog, m_slots.remove);
     layout->addWidget(remove);
     layout->addStretch();
-    place(item, OperationColumn, cell);
+    place(item, ButtonColumn, cell);
 }
 
 } // namespace lctrlsex

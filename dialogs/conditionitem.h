@@ -22,7 +22,7 @@ enum ConditionColumn {
     BoldColumn,
     ItalicColumn,
     UnderlineColumn,
-    OperationColumn,
+    ButtonColumn,
     ConditionColumnCount
 };
 

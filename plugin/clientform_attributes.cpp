@@ -137,9 +137,7 @@ void ClientForm::buildDataControls(QVBoxLayout *content)
 {
     QWidget *const parent = TextAttributesContentBg;
     ConditionalStylesBtn = make<QPushButton>(QStringLiteral("ConditionalStylesBtn"), parent);
-    ConditionalStylesBtn->hide();
     setOperation = make<QPushButton>(QStringLiteral("setOperation"), parent);
-    setOperation->hide();
     FieldLab = make<QLabel>(QStringLiteral("FieldLab"), parent);
     FieldCbx = makeComboBox<FieldChooser>(QStringLiteral("FieldCbx"), parent);
     WarningLabel = make<QLabel>(QStringLiteral("WarningLabel"), parent);

@@ -5,6 +5,7 @@
 #include "inodeclient.h"
 #include "lctrlsexexport.h"
 #include "ltexteffectnode.h"
+#include "recordsjson.h"
 
 #include <QImage>
 #include <QPointer>
@@ -13,7 +14,10 @@
 
 #include <memory>
 
+class LConditionalStyling;
 class LFrameNode;
+class LModbusParameterOperation;
+class QDialog;
 
 namespace lctrlsex {
 class ClientForm;
@@ -108,11 +112,15 @@ private slots:
     // Data
 
     /**
-     * Offers the conditional styles that the node stores. The dialog that edits them does not exist
-     * yet, so its button is hidden; the same holds for the next one and calculations.
+     * Edits the conditional styles that the node stores in a modal dialog. Accepted without a
+     * change it writes nothing; the identifiers of what was there before stay, because texts refer
+     * to them. The host gets the clipboard back in any case.
      */
     void OnConditionalStylesClicked();
+    /** The same for calculations; says that sources changed when the clipboard did. */
     void OnSetOperationClicked();
+    /** Hands the fields on offer to the dialog that is open. */
+    void UpdateDialogs();
     /** Takes over what became of PrepareDynamicDataWithPrefix() and stores it on the node. */
     void AcceptConditionalStyles(const DynamicData &result);
     /** Takes over what became of PrepareDynamicDataCal() and stores it on the node. */
@@ -179,6 +187,17 @@ private:
     /** Reads what the node stores, unless it is what was read last. */
     void LoadRecords();
 
+    /** Has a copy of unreadable @p records kept and says so; false when that failed. */
+    [[nodiscard]] bool KeepUnreadable(const lctrlsex::RecordsFault &fault, const QString &records,
+                                      const QString &title);
+    /** Whether it was accepted and the node is still there. */
+    [[nodiscard]] bool RunDialog(QDialog *dialog);
+
+    /** Values of the fields that an item may use, by qualified name. */
+    [[nodiscard]] static QMap<QString, QString>
+    FieldsOnOffer(const DataSourceConfig &config, const QVector<DynamicDataSource> &sources);
+    [[nodiscard]] static QVector<CalculationVariable>
+    VariablesOf(const QMap<QString, QString> &fields);
     /** False when node, configuration and fields are those of the last time. */
     bool RegisterFields();
     /** Key of the table as its type has it; empty when it is unbound. */
@@ -208,6 +227,10 @@ private:
     QPointer<LTextEffectNode> m_recordsNode;
     QString m_stylesText;
     QString m_calculationsText;
+    lctrlsex::RecordsFault m_stylesFault;
+    lctrlsex::RecordsFault m_calculationsFault;
+    QPointer<LConditionalStyling> m_stylesDialog;
+    QPointer<LModbusParameterOperation> m_operationsDialog;
     QMap<QString, DynamicData> m_conditionalStyles; ///< By the name of the data source.
     QVector<CalculationCondition> m_calculations;
     std::unique_ptr<lctrlsex::StyleFiler> m_filer;

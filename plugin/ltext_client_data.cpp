@@ -36,26 +36,6 @@ const TableKey *tableKey(int tableType)
     return known ? &keys[tableType] : nullptr;
 }
 
-/** Values of the fields that an item may use, by qualified name. */
-QMap<QString, QString> fieldsOnOffer(const DataSourceConfig &config,
-                                     const QVector<DynamicDataSource> &sources)
-{
-    QHash<QString, int> sourceTypes;
-    for (const DataSourceEntry &source : config.sources) {
-        sourceTypes.insert(source.name, source.type);
-    }
-    QMap<QString, QString> fields;
-    for (const DynamicDataSource &source : sources) {
-        const bool system = sourceTypes.value(source.name) == DataSourceEntry::System;
-        for (const DynamicDataField &field : source.fields) {
-            if (field.selected || system) {
-                fields.insert(source.name + QLatin1Char(':') + field.name, field.value);
-            }
-        }
-    }
-    return fields;
-}
-
 /** The entries of the field chooser: unbound, then what can be bound, @p stored in any case. */
 QStringList chooserEntries(QStringList fields, const QString &stored)
 {
@@ -78,16 +58,6 @@ void LTextClient::ConnectData()
             SLOT(OnConditionalStylesClicked()), Qt::UniqueConnection);
     connect(m_form->setOperation, SIGNAL(clicked(bool)), this, SLOT(OnSetOperationClicked()),
             Qt::UniqueConnection);
-}
-
-void LTextClient::OnConditionalStylesClicked()
-{
-    m_form->wgtTextEditor->LoadConditionStyles();
-}
-
-void LTextClient::OnSetOperationClicked()
-{
-    m_form->wgtTextEditor->RefreshDataSource();
 }
 
 void LTextClient::HandleConfigChanged()
@@ -128,6 +98,25 @@ void LTextClient::HandleConfigChanged()
     }
 }
 
+QMap<QString, QString> LTextClient::FieldsOnOffer(const DataSourceConfig &config,
+                                                  const QVector<DynamicDataSource> &sources)
+{
+    QHash<QString, int> sourceTypes;
+    for (const DataSourceEntry &source : config.sources) {
+        sourceTypes.insert(source.name, source.type);
+    }
+    QMap<QString, QString> fields;
+    for (const DynamicDataSource &source : sources) {
+        const bool system = sourceTypes.value(source.name) == DataSourceEntry::System;
+        for (const DynamicDataField &field : source.fields) {
+            if (field.selected || system) {
+                fields.insert(source.name + QLatin1Char(':') + field.name, field.value);
+            }
+        }
+    }
+    return fields;
+}
+
 // A push of a document without a table announces the configuration at every key: what is known
 // already must cost nothing. Comparing values that share their data does.
 bool LTextClient::RegisterFields()
@@ -142,7 +131,7 @@ bool LTextClient::RegisterFields()
     m_registeredNode = m_node;
     m_config = config;
     m_sources = sources;
-    const QMap<QString, QString> fields = fieldsOnOffer(config, sources);
+    const QMap<QString, QString> fields = FieldsOnOffer(config, sources);
     if (bound.value(&LTextEffectNode::FieldNameValues) == fields || !bound) {
         return true;
     }

@@ -10,13 +10,14 @@ namespace LTextPlugin {
 Q_LOGGING_CATEGORY(pluginLog, "lctrlsex.plugin")
 
 /** Says why nothing was read of what an item stores. */
-static void report(const lctrlsex::RecordsFault &fault, const char *what)
+static lctrlsex::RecordsFault report(const lctrlsex::RecordsFault &fault, const char *what)
 {
     if (fault) {
         qCWarning(pluginLog).noquote()
             << what << "of a text item, byte" << fault.offset << ":" << fault.reason
             << "- they stay stored as they are until new ones are set";
     }
+    return fault;
 }
 
 QString LTextClient::DynamicDataListToJson(QMap<QString, DynamicData> &styles)
@@ -29,7 +30,8 @@ QString LTextClient::DynamicDataListToJson(QMap<QString, DynamicData> &styles)
 void LTextClient::JsonToDynamicDataList(const QString &jsonString,
                                         QMap<QString, DynamicData> &dynamicData)
 {
-    report(lctrlsex::stylesFromJson(jsonString, &dynamicData), "Conditional styles");
+    m_stylesFault =
+        report(lctrlsex::stylesFromJson(jsonString, &dynamicData), "Conditional styles");
     QMap<QString, QString> names = lctrlsex::styleNames(dynamicData);
     m_form->wgtTextEditor->UpdateConditionStyles(names);
 }
@@ -43,7 +45,8 @@ QString LTextClient::DynamicDataListToJsonCalculation()
 
 void LTextClient::JsonToDynamicDataListCalculation(const QString &text)
 {
-    report(lctrlsex::calculationsFromJson(text, &m_calculations), "Calculations");
+    m_calculationsFault =
+        report(lctrlsex::calculationsFromJson(text, &m_calculations), "Calculations");
 }
 
 void LTextClient::PrepareDynamicDataWithPrefix(DynamicData &combinedData)
@@ -62,11 +65,18 @@ void LTextClient::PrepareDynamicDataCal(CalculationDynamicData &combinedData)
     if (!bound) {
         return;
     }
-    combinedData.variables.clear();
-    for (auto field = fields.cbegin(); field != fields.cend(); ++field) {
-        combinedData.variables.append({field.key(), field.value()});
-    }
+    combinedData.variables = VariablesOf(fields);
     combinedData.conditions = m_calculations;
+}
+
+QVector<CalculationVariable> LTextClient::VariablesOf(const QMap<QString, QString> &fields)
+{
+    QVector<CalculationVariable> variables;
+    variables.reserve(fields.size());
+    for (auto field = fields.cbegin(); field != fields.cend(); ++field) {
+        variables.append({field.key(), field.value()});
+    }
+    return variables;
 }
 
 void LTextClient::ProcessDialogResult(DynamicData resultData)
@@ -110,6 +120,7 @@ void LTextClient::AcceptConditionalStyles(const DynamicData &result)
     const QString text = DynamicDataListToJson(m_conditionalStyles);
     if (bound) {
         m_stylesText = text;
+        m_stylesFault = {};
         m_node->SetSpanConditions(text);
     }
 }
@@ -124,6 +135,7 @@ void LTextClient::AcceptOperations(const CalculationDynamicData &result)
     const QString text = DynamicDataListToJsonCalculation();
     if (bound) {
         m_calculationsText = text;
+        m_calculationsFault = {};
         m_node->SetCalculation(text);
     }
 }

@@ -133,8 +133,8 @@ void TestClient::widgets()
 void TestClient::startsHidden()
 {
     delete client();
-    for (const char *name : {"BtnBg", "widget", "TextAttributesBg", "GUID", "ConditionalStylesBtn",
-                             "setOperation", "FieldCbx", "FieldLab"}) {
+    for (const char *name :
+         {"BtnBg", "widget", "TextAttributesBg", "GUID", "FieldCbx", "FieldLab"}) {
         QVERIFY2(clientChild<QWidget>(name)->isHidden(), name);
     }
     QCOMPARE(
