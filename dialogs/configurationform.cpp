@@ -169,7 +169,7 @@ void fitToScreen(QDialog *dialog, const QSize &preferred)
 
 bool isEnterInCell(const QKeyEvent *event, const QTreeWidget *tree)
 {
-    const QWidget *focused = QApplication::focusWidget();
+    const QWidget *focused = tree->window()->focusWidget(); // whether or not the window is active
     return (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) &&
            focused != nullptr && (focused == tree || tree->isAncestorOf(focused));
 }

@@ -33,7 +33,12 @@ LModbusParameterOperation::LModbusParameterOperation(QWidget *parent)
     restoreColumnWidths(m_tree, settingsName());
 }
 
-LModbusParameterOperation::~LModbusParameterOperation() = default;
+LModbusParameterOperation::~LModbusParameterOperation()
+{
+    // While all of it is there: hiding moves the focus, which finishes edits and scrolls.
+    delete m_rows;
+    hide();
+}
 
 void LModbusParameterOperation::setDynamicData(const CalculationDynamicData &given)
 {
@@ -101,8 +106,7 @@ void LModbusParameterOperation::done(int result)
 void LModbusParameterOperation::onAddRootButtonClicked()
 {
     CalculationRow *row = m_items->addCalculation();
-    m_tree->scrollToItem(row->child(0));
-    m_cells->make(row->child(0));
+    reveal(row->child(0));
     editName(row);
 }
 
@@ -124,9 +128,17 @@ void LModbusParameterOperation::addStep(CalculationRow *calculation)
     StepRow *step = m_items->addStep(calculation);
     calculation->setExpanded(true);
     m_cells->stepsChanged(calculation);
-    m_tree->scrollToItem(step);
-    m_cells->make(step);
+    reveal(step);
     m_cells->firstField(step)->setFocus();
+}
+
+/** Rows above it that come into view become as high as their results and push it out again. */
+void LModbusParameterOperation::reveal(QTreeWidgetItem *row)
+{
+    m_tree->scrollToItem(row);
+    m_rows->update();
+    m_tree->scrollToItem(row);
+    m_cells->make(row);
 }
 
 void LModbusParameterOperation::removeRow(QTreeWidgetItem *row)
@@ -161,8 +173,7 @@ void LModbusParameterOperation::editName(CalculationRow *calculation)
     if (calculation == nullptr) {
         return;
     }
-    m_tree->scrollToItem(calculation);
-    m_cells->make(calculation);
+    reveal(calculation);
     m_cells->nameEdit(calculation)->setFocus();
     m_cells->nameEdit(calculation)->selectAll();
 }

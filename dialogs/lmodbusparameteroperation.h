@@ -90,6 +90,7 @@ private:
     void setColumns();
     void showColors();
     void addStep(lctrlsex::CalculationRow *calculation);
+    void reveal(QTreeWidgetItem *row);
     void removeRow(QTreeWidgetItem *row);
     void removeSelected();
     void editName(lctrlsex::CalculationRow *calculation);

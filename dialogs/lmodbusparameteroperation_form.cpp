@@ -42,6 +42,7 @@ void LModbusParameterOperation::build()
     connect(m_tree, &QTreeWidget::customContextMenuRequested, this,
             &LModbusParameterOperation::ShowContextMenu);
     connect(m_cells, &OperationCells::nameEdited, this, &LModbusParameterOperation::onNameEdited);
+    connect(m_cells, &OperationCells::laidOut, m_rows, &VisibleRows::update);
     connect(m_cells, &OperationCells::placesClamped, this,
             [this] { m_tips->showTip(decimalRangeNotice()); });
     auto *remove = new QShortcut(QKeySequence::Delete, m_tree);
@@ -57,6 +58,8 @@ void LModbusParameterOperation::setColumns()
     QHeaderView *header = m_tree->header();
     header->setStretchLastSection(false);
     header->setSectionResizeMode(OperationColumn::Arguments, QHeaderView::Stretch);
+    // By rows it would take those at the top to be as low as those at the bottom.
+    m_tree->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
     m_tree->setEditTriggers(QAbstractItemView::DoubleClicked | QAbstractItemView::EditKeyPressed);
     m_tree->setColumnWidth(OperationColumn::Name, 250);
     m_tree->setColumnWidth(OperationColumn::Result, 250);

@@ -5,6 +5,7 @@
 #include "treecells.h"
 
 #include <QStyledItemDelegate>
+#include <QTimer>
 #include <QTreeWidget>
 
 namespace lctrlsex {
@@ -161,7 +162,7 @@ void OperationCells::onOperatorChosen(const QObject *box, int index)
     }
     setOperator(&row->step, index);
     makeFields(row);
-    emit m_tree->itemDelegate()->sizeHintChanged({}); // they are as high as the row until laid out
+    layOut(); // until then they are as high as the row
     row->isTouched = true;
     onArgumentFinished(box);
 }
@@ -189,7 +190,23 @@ void OperationCells::showResult(QTreeWidgetItem *row, const QString &text, const
     auto *label = static_cast<CellLabel *>(m_tree->itemWidget(row, OperationColumn::Result));
     if (label != nullptr) {
         label->setContent(text, reason);
-        row->setSizeHint(0, label->sizeHint());
+        if (row->sizeHint(0) != label->sizeHint()) {
+            row->setSizeHint(0, label->sizeHint());
+            layOut();
+        }
+    }
+}
+
+/** A tree leaves the widgets of its cells where they are when a row becomes higher. */
+void OperationCells::layOut()
+{
+    if (!m_isLayOutDue) {
+        m_isLayOutDue = true;
+        QTimer::singleShot(0, this, [this] {
+            m_isLayOutDue = false;
+            m_tree->doItemsLayout();
+            emit laidOut();
+        });
     }
 }
 

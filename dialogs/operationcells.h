@@ -45,6 +45,8 @@ signals:
     void nameEdited(QTreeWidgetItem *calculation);
     /** The user gave a step places that are outside their range. */
     void placesClamped();
+    /** Rows have become higher or lower: others may have come into view. */
+    void laidOut();
 
 private:
     void makeCalculation(CalculationRow *row);
@@ -62,6 +64,7 @@ private:
     void evaluate(CalculationRow *row);
     void showResults(CalculationRow *row);
     void showResult(QTreeWidgetItem *row, const QString &text, const QString &reason = {});
+    void layOut();
     void offerWords(CalculationRow *row);
     void offerWords(StepRow *row, const QStringList &words);
 
@@ -69,6 +72,7 @@ private:
     QObject *m_receiver;
     OperationVariables m_variables;
     const int m_rowHeight;
+    bool m_isLayOutDue = false;
 };
 
 } // namespace lctrlsex
