@@ -1,11 +1,11 @@
 #include "filereader.h"
 
 #include "datasourceconfig.h"
+#include "movedsources.h"
 #include "sourcetexts.h"
 #include "systemreason.h"
 
 #include <QDateTime>
-#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QFileSystemWatcher>
@@ -55,7 +55,7 @@ bool FileStamp::operator==(const FileStamp &other) const
 
 FileReader::FileReader(const SourceSettings &settings, const SourceContext &context)
     : SourceReader(settings, context)
-    , m_fileName(QDir::cleanPath(QDir(context.folder).absoluteFilePath(settings.file)))
+    , m_fileName(fullFileName(context.folder, settings.file))
 {}
 
 void FileReader::open()

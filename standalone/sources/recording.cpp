@@ -1,11 +1,11 @@
 #include "recording.h"
 
+#include "movedsources.h"
 #include "sourcelogging.h"
 #include "sourcetexts.h"
 #include "systemreason.h"
 
 #include <QDateTime>
-#include <QDir>
 
 namespace sources {
 
@@ -54,7 +54,7 @@ void Recording::add(const Reading &reading)
 
 void ReplayReader::open()
 {
-    QFile file(QDir(context().folder).absoluteFilePath(settings().replay));
+    QFile file(fullFileName(context().folder, settings().replay));
     if (!file.open(QIODevice::ReadOnly)) {
         m_error = SourceTexts::tr("the recording cannot be read: %1")
                       .arg(systemReason(file.errorString()));

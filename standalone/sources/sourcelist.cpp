@@ -1,6 +1,7 @@
 #include "sourcelist.h"
 
 #include "lcontrollernode.h"
+#include "movedsources.h"
 #include "programmekeys.h"
 #include "replacefile.h"
 #include "secrets.h"
@@ -9,6 +10,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QSet>
@@ -83,8 +85,9 @@ void readList(const QJsonValue &value, const JsonPath &path, const QByteArray &b
     }
 }
 
-void readFile(const QString &fileName, ReadSources *read)
+void readFile(const QString &folder, ReadSources *read)
 {
+    const QString fileName = fullFileName(folder, read->list.reference);
     QFile file(fileName);
     if (!file.open(QIODevice::ReadOnly)) {
         read->list.isBroken = file.exists();
@@ -102,7 +105,9 @@ void readFile(const QString &fileName, ReadSources *read)
         read->faults.append(error);
         return;
     }
-    readList(json.isArray() ? QJsonValue(json.array()) : QJsonValue(), JsonPath(), bytes, read);
+    const QJsonValue list = json.isArray() ? QJsonValue(json.array()) : QJsonValue();
+    readList(movedSources(list, QFileInfo(fileName).absolutePath(), folder), JsonPath(), bytes,
+             read);
 }
 
 /** The list as it is stored; an error names the first fault. */
@@ -141,7 +146,7 @@ ReadSources readSources(const LControllerNode &programme, const QString &folder,
         programme.property(ProgrammeKeys::Unknown).toJsonObject().value(Sources);
     if (value.isString()) {
         read.list.reference = value.toString();
-        readFile(QDir(folder).absoluteFilePath(value.toString()), &read);
+        readFile(folder, &read);
     } else if (!value.isUndefined()) {
         readList(value, JsonPath().key(Sources), bytes, &read);
     }
@@ -164,8 +169,9 @@ ProgrammeError storeSources(LControllerNode *programme, const QString &folder,
     }
     QJsonValue value = array;
     if (!list.reference.isEmpty()) {
-        const QString fileName = QDir(folder).absoluteFilePath(list.reference);
-        const QString reason = replaceFile(fileName, QJsonDocument(array).toJson());
+        const QString fileName = fullFileName(folder, list.reference);
+        const QJsonValue stored = movedSources(array, folder, QFileInfo(fileName).absolutePath());
+        const QString reason = replaceFile(fileName, QJsonDocument(stored.toArray()).toJson());
         if (!reason.isEmpty()) {
             return fileError(fileName, reason);
         }

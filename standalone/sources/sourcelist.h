@@ -30,8 +30,9 @@ struct ReadSources
 
 /**
  * Reads the member "sources" of the programme that stands in @p folder: a list, or the name of a
- * file with such a list. One bad source does not keep the others away. @p bytes of the programme's
- * file add line and column to the faults.
+ * file with such a list. One bad source does not keep the others away. File names in a list of its
+ * own are relative to that list; those of the sources read are always relative to @p folder.
+ * @p bytes of the programme's file add line and column to the faults.
  */
 [[nodiscard]] ReadSources readSources(const LControllerNode &programme, const QString &folder,
                                       const QByteArray &bytes = QByteArray());

@@ -1,10 +1,10 @@
 #include "sqlreader.h"
 
 #include "celltable.h"
+#include "movedsources.h"
 #include "secrets.h"
 #include "sourcetexts.h"
 
-#include <QDir>
 #include <QElapsedTimer>
 #include <QLocale>
 #include <QSqlDriver>
@@ -153,7 +153,7 @@ QString SqlReader::prepare(QSqlDatabase *database) const
     };
     QString name = resolved(connection.database);
     if (connection.driver == QLatin1String("QSQLITE")) {
-        name = QDir(context().folder).absoluteFilePath(name);
+        name = fullFileName(context().folder, name);
     }
     database->setDatabaseName(name);
     database->setHostName(resolved(connection.host));

@@ -1,7 +1,6 @@
 #include "autosave.h"
 #include "lappconfig.h"
 #include "lcontrollernode.h"
-#include "livedata.h"
 #include "mainwindow.h"
 #include "noticebar.h"
 #include "programmedocument.h"
@@ -107,14 +106,7 @@ bool MainWindow::saveAs()
 
 bool MainWindow::saveUnder(const QString &fileName)
 {
-    const QString before = m_document->folder();
-    const QString after = QFileInfo(fileName).absolutePath();
-    m_live->rebase(before, after);
-    const ProgrammeError error = m_document->saveAs(fileName);
-    if (error.isSet()) {
-        m_live->rebase(after, before);
-    }
-    if (!noteOutcome(fileName, error)) {
+    if (!noteOutcome(fileName, m_document->saveAs(fileName))) {
         return false;
     }
     statusBar()->showMessage(tr("Saved %1").arg(QDir::toNativeSeparators(fileName)), StatusTime);

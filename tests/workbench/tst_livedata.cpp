@@ -71,6 +71,7 @@ private slots:
     void pagesFollowTheSource_data();
     void pagesFollowTheSource();
     void sourcesAreSteps();
+    void filesGoAlong_data();
     void filesGoAlong();
     void refuses_data();
     void refuses();
@@ -184,22 +185,49 @@ void TestLiveData::sourcesAreSteps()
     QTRY_COMPARE(desk.page(), states.at(1));
 }
 
+void TestLiveData::filesGoAlong_data()
+{
+    QTest::addColumn<bool>("isOwnFile");
+    QTest::newRow("list in the programme") << false;
+    QTest::newRow("list in a file of its own") << true;
+}
+
+/** Wherever the programme is saved, by way of links too, and whatever is undone afterwards. */
 void TestLiveData::filesGoAlong()
 {
-    QVERIFY(QDir().mkpath(path("old")) && QDir().mkpath(path("new/deep")));
-    QVERIFY(live::write(path("old/a.csv"), live::records(2, 100)));
-    QVERIFY(
-        live::write(path("old/p.json"), live::programme(QJsonArray{live::csvSource("s", "a.csv")},
-                                                        {live::item("Live", Key)})));
+    QFETCH(bool, isOwnFile);
+    QVERIFY(QDir().mkpath(path("old/lists")) && QDir().mkpath(path("new/deep/er")));
+    QVERIFY(QFile::link(path("new/deep/er"), path("link")));
+    QVERIFY(live::write(path("old/a.csv"), live::records(2)));
+    const QJsonArray list{live::csvSource("s", isOwnFile ? "../a.csv" : "a.csv")};
+    QVERIFY(live::write(path("old/lists/l.json"), QJsonDocument(list).toJson()));
+    QVERIFY(live::write(path("old/p.json"),
+                        live::programme(isOwnFile ? QJsonValue("lists/l.json") : QJsonValue(list),
+                                        {live::item("Live", Key)})));
     Desk desk(path("old/p.json"));
     QTRY_COMPARE(desk.rows("s"), 2);
-    desk.data.rebase(desk.document.folder(), path("new/deep"));
-    QVERIFY(!desk.document.saveAs(path("new/deep/p.json")).isSet());
-    QVERIFY(!desk.document.isModified());
-    Desk moved(path("new/deep/p.json"));
-    QVERIFY(live::write(path("old/a.csv"), live::records(5)));
-    QTRY_VERIFY(desk.rows("s") == 5 && moved.rows("s") == 5); // both go on
-    QCOMPARE(moved.data.sources().at(0).file, QString("../../old/a.csv"));
+    QVERIFY(!desk.data.setSources({csv("b.csv")}, "step").isSet()); // is not there yet
+    QVERIFY(desk.document.saveAs(path("none/p.json")).isSet());
+    QCOMPARE(desk.data.sources().at(0).file, QString("b.csv"));
+    for (const char *const folder : {"link", "new", "old"}) {
+        QVERIFY(!desk.document.saveAs(path(folder) + "/p.json").isSet());
+        QFile::remove(path("old/b.csv"));
+        Desk moved(path(folder) + "/p.json");
+        QVERIFY(live::write(path("old/b.csv"), live::records(5)));
+        QTRY_VERIFY(desk.rows("s") == 5 && moved.rows("s") == 5);
+        desk.document.undo();
+        QTRY_COMPARE(desk.rows("s"), isOwnFile ? 5 : 2); // such a list changes without a step
+        desk.document.redo();
+        QTRY_COMPARE(desk.rows("s"), 5);
+        QVERIFY(!desk.document.isModified());
+    }
+    QCOMPARE(desk.data.sources().at(0).file, QString("b.csv"));
+    ProgrammeDocument copy;
+    QVERIFY(!copy.openCopy(path("old/p.json")).isSet());
+    ProgrammeDocument restored;
+    const LiveData data(&restored);
+    QVERIFY(!restored.restore(copy.contents(), QString()).isSet());
+    QTRY_COMPARE(data.manager()->health("s").rows, 5);
 }
 
 void TestLiveData::refuses_data()
@@ -233,7 +261,6 @@ void TestLiveData::refuses()
     QVERIFY(desk.data.setSources({settings}, "step").isSet());
     QCOMPARE(desk.document.rootMembers(), before);
     QCOMPARE(desk.document.history()->count(), 0);
-    desk.data.rebase(desk.document.folder(), path(".."));
     QVERIFY(!desk.document.save().isSet());
     QFile list(path("list.json"));
     QFile saved(path("p.json"));

@@ -4,7 +4,6 @@
 #include "programmedocument.h"
 #include "programmekeys.h"
 
-#include <QDir>
 #include <QFile>
 #include <QStandardPaths>
 
@@ -95,34 +94,6 @@ QString LiveData::freeName(const QString &base) const
         name = QStringLiteral("%1 %2").arg(base).arg(number);
     }
     return name;
-}
-
-/** A name that is relative to @p from as one that is relative to @p to. */
-static QString moved(const QString &name, const QDir &from, const QDir &to)
-{
-    const bool isRelative = !name.isEmpty() && name != QLatin1String(":memory:") &&
-                            QDir::isRelativePath(name) && QFile::exists(from.filePath(name));
-    return isRelative ? to.relativeFilePath(from.absoluteFilePath(name)) : name;
-}
-
-void LiveData::rebase(const QString &fromFolder, const QString &toFolder)
-{
-    const QDir from(fromFolder);
-    const QDir to(toFolder);
-    if (from == to || !m_list.reference.isEmpty() || m_list.isBroken) {
-        return;
-    }
-    sources::SourceList list = m_list;
-    for (SourceSettings &source : list.sources) {
-        source.file = moved(source.file, from, to);
-        source.replay = moved(source.replay, from, to);
-        source.connection.database = moved(source.connection.database, from, to);
-    }
-    const ProgrammeError error =
-        sources::storeSources(m_document->controller(), m_document->folder(), list);
-    if (!error.isSet()) {
-        m_list = list;
-    }
 }
 
 } // namespace workbench

@@ -43,12 +43,6 @@ public:
     /** A name for a new source that no other has, made of @p base. */
     [[nodiscard]] QString freeName(const QString &base) const;
 
-    /**
-     * The programme is about to be saved in folder @p to instead of @p from: makes the relative
-     * file names of its sources name the same files from there.
-     */
-    void rebase(const QString &from, const QString &to);
-
 signals:
     /** sources() or faults() are others. */
     void sourcesChanged();

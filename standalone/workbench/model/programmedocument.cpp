@@ -2,7 +2,9 @@
 
 #include "changerecorder.h"
 #include "ltexteffectnode.h"
+#include "movedsources.h"
 #include "nodebuilder.h"
+#include "programmekeys.h"
 #include "treewatch.h"
 
 #include <QDir>
@@ -169,11 +171,14 @@ ProgrammeError ProgrammeDocument::save()
 ProgrammeError ProgrammeDocument::saveAs(const QString &fileName)
 {
     m_recorder->settle();
+    const QString full = QFileInfo(fileName).absoluteFilePath();
+    const QJsonObject before = rootMembers();
+    moveMembers(QFileInfo(full).absolutePath());
     ProgrammeError error = saveProgramme(*m_controller, fileName);
     if (error.isSet()) {
+        m_controller->setProperty(ProgrammeKeys::Unknown, before);
         return error;
     }
-    const QString full = QFileInfo(fileName).absoluteFilePath();
     if (full != m_fileName) {
         m_fileName = full;
         emit fileNameChanged();
@@ -186,7 +191,19 @@ ProgrammeError ProgrammeDocument::saveAs(const QString &fileName)
 QByteArray ProgrammeDocument::contents()
 {
     m_recorder->settle();
-    return writeProgramme(*m_controller);
+    const QJsonObject members = rootMembers();
+    if (m_fileName.isEmpty()) {
+        moveMembers(QDir::homePath()); // where it came from is known no more when it is restored
+    }
+    const QByteArray bytes = writeProgramme(*m_controller);
+    m_controller->setProperty(ProgrammeKeys::Unknown, members);
+    return bytes;
+}
+
+void ProgrammeDocument::moveMembers(const QString &to)
+{
+    m_controller->setProperty(ProgrammeKeys::Unknown,
+                              sources::movedMembers(rootMembers(), folder(), to));
 }
 
 void ProgrammeDocument::attachTextEditor(LTextEffectNode *node, QTextEdit *view)

@@ -68,10 +68,14 @@ public:
      * saved as @p fileName, which may be empty. It is modified from the start.
      */
     [[nodiscard]] ProgrammeError restore(const QByteArray &programme, const QString &fileName);
-    /** Writes the file; an error when there is no file name. */
+    /**
+     * Writes the file; an error when there is no file name. In another folder than before the file
+     * names of data sources are put so that they name the same files from there, whichever step is
+     * undone or redone later.
+     */
     [[nodiscard]] ProgrammeError save();
     [[nodiscard]] ProgrammeError saveAs(const QString &fileName);
-    /** The programme as it would be saved now. */
+    /** The programme as it would be saved now, fit for restore(). */
     [[nodiscard]] QByteArray contents();
 
     // Each is one step and gives null or false, and no step, where it is not possible
@@ -145,6 +149,8 @@ private:
     [[nodiscard]] static ReadProgramme loadFile(const QString &fileName);
     void install(std::unique_ptr<LControllerNode> controller, const QString &fileName,
                  const QString &origin = QString());
+    /** Makes rootMembers() those of a file in another folder. */
+    void moveMembers(const QString &to);
     /** Collects what changed; false inside an undo or redo, where nothing may be changed. */
     bool isReady();
     void announceTouched();

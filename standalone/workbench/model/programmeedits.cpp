@@ -4,6 +4,7 @@
 #include "lframenode.h"
 #include "lscreennode.h"
 #include "ltexteffectnode.h"
+#include "movedsources.h"
 #include "nodebuilder.h"
 #include "programmedocument.h"
 #include "programmekeys.h"
@@ -11,10 +12,7 @@
 #include "structurestep.h"
 #include "treewatch.h"
 
-#include <QPointer>
 #include <QUndoStack>
-
-#include <functional>
 
 namespace workbench {
 
@@ -24,31 +22,30 @@ namespace {
 class RootStep : public QUndoCommand
 {
 public:
-    RootStep(LControllerNode *controller, QJsonObject after, const QString &text,
-             std::function<void()> announce)
+    RootStep(ProgrammeDocument *document, QJsonObject after, const QString &text)
         : QUndoCommand(text)
-        , m_controller(controller)
-        , m_before(controller->property(ProgrammeKeys::Unknown).toJsonObject())
+        , m_document(document)
+        , m_folder(document->folder())
+        , m_before(document->rootMembers())
         , m_after(std::move(after))
-        , m_announce(std::move(announce))
     {}
 
     void undo() override { set(m_before); }
     void redo() override { set(m_after); }
 
 private:
+    /** The programme may have been saved in another folder since. */
     void set(const QJsonObject &members)
     {
-        if (m_controller) {
-            m_controller->setProperty(ProgrammeKeys::Unknown, members);
-            m_announce();
-        }
+        m_document->controller()->setProperty(
+            ProgrammeKeys::Unknown, sources::movedMembers(members, m_folder, m_document->folder()));
+        emit m_document->rootMembersChanged();
     }
 
-    const QPointer<LControllerNode> m_controller;
+    ProgrammeDocument *const m_document;
+    const QString m_folder; ///< That file names in the members are relative to.
     const QJsonObject m_before;
     const QJsonObject m_after;
-    const std::function<void()> m_announce;
 };
 
 } // namespace
@@ -63,8 +60,7 @@ bool ProgrammeDocument::setRootMembers(const QJsonObject &members, const QString
     if (!isReady() || members == rootMembers()) {
         return false;
     }
-    m_history->push(
-        new RootStep(m_controller.get(), members, stepName, [this] { emit rootMembersChanged(); }));
+    m_history->push(new RootStep(this, members, stepName));
     return true;
 }
 
