@@ -3294,6 +3294,65 @@ Free software under the MIT licence.</source>
     </message>
 </context>
 <context>
+    <name>workbench::QueryEdits</name>
+    <message>
+        <source>&amp;Add</source>
+        <translation>添加(&amp;A)</translation>
+    </message>
+    <message>
+        <source>Remov&amp;e</source>
+        <translation>移除(&amp;E)</translation>
+    </message>
+    <message>
+        <source>Na&amp;me in keys:</source>
+        <translation>键中的名称(&amp;M)：</translation>
+    </message>
+    <message>
+        <source>Queries</source>
+        <translation>查询</translation>
+    </message>
+    <message>
+        <source>Add a query (Insert)</source>
+        <translation>添加查询 (Insert)</translation>
+    </message>
+    <message>
+        <source>Remove the query (Delete)</source>
+        <translation>移除查询 (Delete)</translation>
+    </message>
+    <message>
+        <source>Text of the query</source>
+        <translation>查询的文本</translation>
+    </message>
+    <message>
+        <source>no name</source>
+        <translation>无名称</translation>
+    </message>
+    <message>
+        <source>There is no query yet: add one.</source>
+        <translation>尚无查询：请添加。</translation>
+    </message>
+    <message>
+        <source>a query has no name</source>
+        <translation>有一个查询没有名称</translation>
+    </message>
+    <message>
+        <source>there are two queries called %1</source>
+        <translation>有两个查询都叫 %1</translation>
+    </message>
+    <message>
+        <source>a name must not hold any of %1</source>
+        <translation>名称不得含有下列字符：%1</translation>
+    </message>
+    <message>
+        <source>there is none</source>
+        <translation>还没有查询</translation>
+    </message>
+    <message>
+        <source>%1 has no text</source>
+        <translation>%1 没有文本</translation>
+    </message>
+</context>
+<context>
     <name>workbench::SourceDialog</name>
     <message numerus="yes">
         <source>… and %n more key(s)</source>
@@ -3414,10 +3473,6 @@ Free software under the MIT licence.</source>
         <translation>密码(&amp;W)：</translation>
     </message>
     <message>
-        <source>&amp;Query:</source>
-        <translation>查询(&amp;Q)：</translation>
-    </message>
-    <message>
         <source>plain text</source>
         <translation>纯文本</translation>
     </message>
@@ -3460,6 +3515,14 @@ Free software under the MIT licence.</source>
     <message>
         <source>For&amp;mat:</source>
         <translation>格式(&amp;M)：</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1：%2</translation>
+    </message>
+    <message>
+        <source>&amp;Queries:</source>
+        <translation>查询(&amp;Q)：</translation>
     </message>
 </context>
 <context>

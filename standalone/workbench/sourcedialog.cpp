@@ -3,6 +3,7 @@
 #include "datamodel.h"
 #include "datasourceconfigmanager.h"
 #include "livedata.h"
+#include "queryedits.h"
 #include "secrets.h"
 
 #include <QCheckBox>
@@ -16,6 +17,8 @@
 #include <QPointer>
 #include <QPushButton>
 #include <QSpinBox>
+
+#include <algorithm>
 
 namespace workbench {
 
@@ -57,6 +60,22 @@ QString resultText(const sources::DataSource &source)
     return text;
 }
 
+/** The table "rows" comes from the member "query", unless the file has it another way. */
+void takeQuery(SourceSettings *settings, const SourceSettings &original)
+{
+    const auto isRows = [](const sources::NamedText &query) {
+        return query.name == QLatin1String("rows");
+    };
+    QVector<sources::NamedText> &queries = settings->queries;
+    const bool wasNamed = original.query.isEmpty() &&
+                          std::any_of(original.queries.begin(), original.queries.end(), isRows);
+    const auto rows = std::find_if(queries.begin(), queries.end(), isRows);
+    if (rows != queries.end() && !wasNamed) {
+        settings->query = rows->text;
+        queries.erase(rows);
+    }
+}
+
 } // namespace
 
 /** Fills the form again with what was there, and adds what is new. */
@@ -79,7 +98,9 @@ SourceSettings SourceDialog::settings() const
         settings.connection.database = m_database->text().trimmed();
         settings.connection.user = m_user->text().trimmed();
         settings.connection.password = m_password->text();
-        settings.query = m_query->toPlainText().trimmed();
+        settings.query.clear();
+        settings.queries = m_queries->queries();
+        takeQuery(&settings, m_original);
     }
     if (m_format != nullptr) {
         settings.format = m_format->currentData().toString();
@@ -95,27 +116,81 @@ SourceSettings SourceDialog::settings() const
     return settings;
 }
 
-void SourceDialog::check()
+/** The field of a member of the settings. */
+QWidget *SourceDialog::fieldOf(const QString &path) const
 {
-    const SourceSettings now = settings();
-    QString fault;
-    const bool isRenamed = m_isNew || now.name != m_original.name;
-    if (isRenamed && m_data->freeName(now.name) != now.name) {
-        fault = tr("There is another source of that name.");
-    } else {
-        const auto faults = sources::settingsFaults(now, JsonPath());
-        if (!faults.isEmpty()) {
-            fault =
-                faults.constFirst().path.text() + QStringLiteral(": ") + faults.constFirst().reason;
+    const QVector<QPair<QLatin1String, QWidget *>> fields{
+        {QLatin1String("name"), m_name},
+        {QLatin1String("file"), m_file},
+        {QLatin1String("url"), m_url},
+        {QLatin1String("headers"), m_headers},
+        {QLatin1String("connection.driver"), m_driver},
+        {QLatin1String("connection.host"), m_host},
+        {QLatin1String("connection.database"), m_database},
+        {QLatin1String("connection.user"), m_user},
+        {QLatin1String("connection.password"), m_password},
+        {QLatin1String("quer"), m_queries}, // "query" and "queries"
+        {QLatin1String("format"), m_format},
+        {QLatin1String("delimiter"), m_delimiter},
+        {QLatin1String("encoding"), m_encoding},
+    };
+    for (const auto &[member, field] : fields) {
+        if (path.startsWith(member)) {
+            return field;
         }
     }
-    m_notice->setText(fault);
-    m_buttons->button(QDialogButtonBox::Ok)->setEnabled(fault.isEmpty());
-    m_test->setEnabled(fault.isEmpty());
+    return nullptr;
+}
+
+SourceDialog::Fault SourceDialog::firstFault() const
+{
+    const SourceSettings now = settings();
+    const bool isRenamed = m_isNew || now.name != m_original.name;
+    if (isRenamed && m_data->freeName(now.name) != now.name) {
+        return {tr("There is another source of that name."), m_name};
+    }
+    const bool hasQueries = m_queries != nullptr && now.replay.isEmpty();
+    if (hasQueries && !m_queries->fault().isEmpty()) {
+        return {tr("%1: %2").arg(labelOf(m_queries), m_queries->fault()), m_queries};
+    }
+    const auto faults = sources::settingsFaults(now, JsonPath());
+    if (faults.isEmpty()) {
+        return {};
+    }
+    const QString path = faults.constFirst().path.text();
+    QWidget *const field = fieldOf(path);
+    return {tr("%1: %2").arg(field != nullptr ? labelOf(field) : path, faults.constFirst().reason),
+            field};
+}
+
+void SourceDialog::check()
+{
+    m_notice->setText(firstFault().text);
+}
+
+bool SourceDialog::showFault()
+{
+    const Fault fault = firstFault();
+    if (fault.field != nullptr && fault.field == m_queries) {
+        m_queries->focusFault();
+    } else if (fault.field != nullptr) {
+        fault.field->setFocus();
+    }
+    return !fault.text.isEmpty();
+}
+
+void SourceDialog::accept()
+{
+    if (!showFault()) {
+        QDialog::accept();
+    }
 }
 
 void SourceDialog::test()
 {
+    if (showFault()) {
+        return;
+    }
     SourceSettings tried = settings();
     tried.enabled = true;
     sources::SourceContext context = m_data->context();

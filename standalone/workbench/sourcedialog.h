@@ -25,13 +25,14 @@ class DataSource;
 namespace workbench {
 
 class LiveData;
+class QueryEdits;
 
 /** What a kind of source is called, in the current language. */
 [[nodiscard]] QString sourceKindName(int type);
 
 /**
  * Asks how a data source is set up, and tries it out on demand. What keeps it from being used is
- * said below the fields, and nothing is accepted before it is mended.
+ * said below the fields; who accepts or tries it then is led to the field that is to be mended.
  */
 class SourceDialog : public QDialog
 {
@@ -41,6 +42,8 @@ public:
     /** The settings that the user accepted; null when none were. */
     [[nodiscard]] static std::unique_ptr<sources::SourceSettings>
     ask(LiveData *live, const sources::SourceSettings &settings, bool isNew, QWidget *parent);
+
+    void accept() override;
 
 private:
     SourceDialog(LiveData *live, const sources::SourceSettings &settings, bool isNew,
@@ -59,7 +62,19 @@ private:
 
     [[nodiscard]] sources::SourceSettings settings() const;
     void chooseFile();
+    void showServer();
     void check();
+    /** The text says what is wrong and where; the field is null when it has none for it. */
+    struct Fault
+    {
+        QString text;
+        QWidget *field = nullptr;
+    };
+    [[nodiscard]] Fault firstFault() const;
+    [[nodiscard]] QWidget *fieldOf(const QString &path) const;
+    [[nodiscard]] QString labelOf(const QWidget *field) const;
+    /** Moves to the field that is to be mended; false when none is. */
+    bool showFault();
     void test();
     void showTest();
 
@@ -78,7 +93,7 @@ private:
     QLineEdit *m_database = nullptr;
     QLineEdit *m_user = nullptr;
     QLineEdit *m_password = nullptr;
-    QPlainTextEdit *m_query = nullptr;
+    QueryEdits *m_queries = nullptr;
     QComboBox *m_format = nullptr;
     QComboBox *m_delimiter = nullptr;
     QComboBox *m_encoding = nullptr;

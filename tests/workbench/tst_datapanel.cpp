@@ -10,11 +10,13 @@
 
 #include <QDialogButtonBox>
 #include <QDropEvent>
+#include <QJsonArray>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMenu>
 #include <QMimeData>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QTextEdit>
 #include <QTreeView>
@@ -32,6 +34,7 @@ private slots:
     void init();
     void cleanup() { m_window.reset(); }
     void addsASource();
+    void editsQueries();
     void insertsAValue();
     void bindsTheTable();
     void saysThatThereIsNoTable();
@@ -97,19 +100,23 @@ void TestDataPanel::addFile(const QString &file, const QString &keyName)
         const auto line = [dialog](const char *name) {
             return dialog->findChild<QLineEdit *>(name);
         };
-        const auto *ok = dialog->findChild<QDialogButtonBox *>()->button(QDialogButtonBox::Ok);
         auto *test = dialog->findChild<QPushButton *>("TestSource");
         const auto *result = dialog->findChild<QLabel *>("SourceResult");
         const auto *notice = dialog->findChild<QLabel *>("SourceNotice");
-        const auto isRefused = [&] {
-            return !ok->isEnabled() && !test->isEnabled() && !notice->text().isEmpty();
+        const auto isRefused = [&](const QString &label, const char *field) {
+            dialog->setFocus();
+            test->click();
+            dialog->accept();
+            return dialog->isVisible() && result->text().isEmpty() && line(field)->hasFocus() &&
+                   notice->text().startsWith(label + ": ");
         };
-        QVERIFY(isRefused()); // no file
+        QVERIFY(line("SourceFile")->hasFocus());
+        QVERIFY2(isRefused("File", "SourceFile"), qPrintable(notice->text()));
         line("SourceFile")->setText("gone.csv");
         line("SourceName")->setText("a:b");
-        QVERIFY(isRefused());
+        QVERIFY2(isRefused("Name", "SourceName"), qPrintable(notice->text()));
         line("SourceName")->setText("s");
-        QVERIFY(ok->isEnabled() && notice->text().isEmpty());
+        QCOMPARE(notice->text(), QString());
         test->click();
         QTRY_VERIFY2(result->text().contains("No such file"), qPrintable(result->text()));
         line("SourceFile")->setText(file);
@@ -133,6 +140,53 @@ void TestDataPanel::addsASource()
     QTRY_COMPARE(key("text").sibling(0, 1).data().toString(), QString("New"));
     m_window->document()->undo();
     QTRY_VERIFY(find<QLabel>("DataHint")->isVisible());
+}
+
+/** All by keys; each query is a table of its own, and the file keeps them apart. */
+void TestDataPanel::editsQueries()
+{
+    auto *menu = find<QPushButton>("AddSourceButton")->menu();
+    emit menu->aboutToShow();
+    ModalAnswerer answer([](QDialog *dialog) {
+        const auto end = qScopeGuard([dialog] { dialog->isVisible() ? dialog->reject() : void(); });
+        auto *list = dialog->findChild<QListWidget *>("SourceQueries");
+        auto *name = dialog->findChild<QLineEdit *>("SourceQueryName");
+        auto *text = dialog->findChild<QPlainTextEdit *>("SourceQuery");
+        const auto *notice = dialog->findChild<QLabel *>("SourceNotice");
+        const auto isRefused = [&](const QString &expected, const QWidget *field) {
+            dialog->accept();
+            return dialog->isVisible() && notice->text() == expected && field->hasFocus();
+        };
+        const auto press = [list](Qt::Key key) {
+            list->setFocus();
+            QTest::keyClick(list, key);
+        };
+        dialog->findChild<QLineEdit *>("SourceDatabase")->setText(":memory:");
+        QVERIFY2(isRefused("Queries: rows has no text", text), qPrintable(notice->text()));
+        press(Qt::Key_Delete);
+        QVERIFY(isRefused("Queries: there is none", dialog->findChild<QWidget *>("AddQuery")));
+        for (const char *const word : {"rows", "second", "third"}) {
+            press(Qt::Key_Insert);
+            QTest::keyClicks(QApplication::focusWidget(), word);
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+            QTest::keyClicks(QApplication::focusWidget(), QString("select '%1' as a").arg(word));
+        }
+        press(Qt::Key_F2);
+        QTest::keyClicks(QApplication::focusWidget(), "rows");
+        QVERIFY(isRefused("Queries: there are two queries called rows", name));
+        list->setCurrentRow(1);
+        QCOMPARE(text->toPlainText(), QString("select 'second' as a"));
+        press(Qt::Key_Delete);
+        name->setText("last");
+        dialog->accept();
+    });
+    menu->actions().at(3)->trigger();
+    QVERIFY(answer.wasAsked());
+    QTRY_VERIFY(key("rows.{a}").isValid() && key("last.{a}").isValid());
+    const QJsonObject source =
+        m_window->document()->rootMembers()["sources"].toArray()[0].toObject();
+    QCOMPARE(source["query"].toString(), QString("select 'rows' as a"));
+    QCOMPARE(source["queries"].toObject(), (QJsonObject{{"last", "select 'third' as a"}}));
 }
 
 void TestDataPanel::insertsAValue()

@@ -42,7 +42,7 @@ static QStringList unspoken(const QWidget *window)
     // encodings, drivers and the settings of a source are called in every language what they are in
     // its file.
     static const QRegularExpression ownPlace("comboFont entry|/Undo |/Language\\.|lookInCombo|"
-                                             "(listView|treeView|sidebar) row|"
+                                             "(listView|treeView|sidebar|SourceQueries) row|"
                                              "Source(Encoding|Format|Driver) entry|SourceNotice|"
                                              "Source(Url|Headers|Password|Query) placeholder");
     // Names of the programme, files, names of keys, and mnemonics, which the pseudo-locale keeps.
