@@ -2598,6 +2598,10 @@
         <source>text</source>
         <translation>文本</translation>
     </message>
+    <message>
+        <source>%1 ago</source>
+        <translation>%1前</translation>
+    </message>
 </context>
 <context>
     <name>workbench::DataPanel</name>

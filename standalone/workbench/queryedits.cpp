@@ -65,7 +65,7 @@ void QueryEdits::buildList()
     m_list->setObjectName(QStringLiteral("SourceQueries"));
     m_list->setAccessibleName(tr("Queries"));
     m_list->setFixedWidth(ListWidth);
-    m_list->setMinimumHeight(0);
+    m_list->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Ignored); // as high as the text beside
     m_add->setObjectName(QStringLiteral("AddQuery"));
     m_add->setToolTip(tr("Add a query (Insert)"));
     m_remove->setObjectName(QStringLiteral("RemoveQuery"));

@@ -195,9 +195,12 @@ QVariant DataModel::sourceData(int row, int column, int role) const
     const SourceHealth health = m_data->manager()->health(source.name);
     switch (role) {
     case Qt::DisplayRole:
-        return column == NameColumn ? source.name : stateText(health, source.isEnabled);
-    case Qt::ToolTipRole:
-        return health.error.isEmpty() ? QVariant() : health.error.left(LongestTip).toHtmlEscaped();
+        return column == NameColumn ? source.name : shortStateText(health, source.isEnabled);
+    case Qt::ToolTipRole: {
+        const bool isFault = !health.error.isEmpty();
+        const QString text = isFault ? health.error : stateText(health, source.isEnabled);
+        return text.left(LongestTip).toHtmlEscaped();
+    }
     case StateRole:
         return int(source.isEnabled ? health.state : SourceHealth::Off);
     default:
@@ -283,6 +286,15 @@ QString DataModel::stateText(const SourceHealth &health, bool isEnabled)
         tr("%1 ago, took %2 ms")
             .arg(ageText(health.age()), QLocale().toString(qMax<qint64>(0, health.latency)));
     return health.rows < 1 ? taken : tr("%1, %2 rows").arg(taken, QLocale().toString(health.rows));
+}
+
+QString DataModel::shortStateText(const SourceHealth &health, bool isEnabled)
+{
+    if (!isEnabled || health.state != SourceHealth::Good) {
+        return stateText(health, isEnabled);
+    }
+    const QString age = tr("%1 ago").arg(ageText(health.age()));
+    return health.rows < 1 ? age : tr("%1, %2 rows").arg(age, QLocale().toString(health.rows));
 }
 
 QString DataModel::typeText(int type)

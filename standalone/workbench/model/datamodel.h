@@ -51,8 +51,10 @@ public:
 
     /** Texts in the current language. */
     void retranslate();
-    /** How a source is doing, in a few words. */
+    /** How a source is doing, in a few words; the short text leaves out how long it took. */
     [[nodiscard]] static QString stateText(const sources::SourceHealth &health, bool isEnabled);
+    [[nodiscard]] static QString shortStateText(const sources::SourceHealth &health,
+                                                bool isEnabled);
     /** What a key's type number means, in a few words. */
     [[nodiscard]] static QString typeText(int type);
 
