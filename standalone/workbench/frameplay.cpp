@@ -42,9 +42,9 @@ void FramePlay::setItems(const QVector<LTextEffectNode *> &items, qint64 now)
     bool isSame = items.size() == m_entries.size();
     int index = -1;
     for (LTextEffectNode *node : items) {
-        Entry entry{node, -1};
+        Entry entry{node};
         for (const Entry &known : qAsConst(m_entries)) {
-            entry.pageCount = known.node == node ? known.pageCount : entry.pageCount;
+            entry = known.node == node ? known : entry;
         }
         isSame = isSame && m_entries.at(entries.size()).node == node;
         index = node == playing ? entries.size() : index;
@@ -69,8 +69,12 @@ void FramePlay::adopt(const QVector<Entry> &entries, const FrameMoment &before, 
     m_entries = entries;
     QVector<ItemPlay> plays;
     for (Entry &entry : m_entries) {
-        if (entry.pageCount < 0) {
-            entry.pageCount = m_pages->pageCount(entry.node);
+        if (!entry.isCounted) {
+            const int found = m_pages->pageCount(entry.node);
+            // What plays late pages does not fall back while they are counted anew.
+            entry.pageCount =
+                m_pages->isCounting(entry.node) ? qMax(found, entry.pageCount) : found;
+            entry.isCounted = true;
         }
         plays.append(player::itemPlayOf(entry.node, entry.pageCount));
     }
@@ -99,7 +103,7 @@ void FramePlay::dropPages(const LTextEffectNode *node)
 {
     for (Entry &entry : m_entries) {
         if (entry.node == node) {
-            entry.pageCount = -1;
+            entry.isCounted = false;
         }
     }
     if (m_next.node == node) {
@@ -116,7 +120,7 @@ bool FramePlay::advance(qint64 now)
     if (!isSamePage(at, m_shown)) {
         beginPage(at);
     } else if (at.item >= 0 && m_page.index != at.moment.page) {
-        m_page = {item(), at.moment.page, pageImage(at.item, at.moment.page)};
+        takePage(at);
     }
     m_shown = at;
     const QImage picture = draw();
@@ -142,13 +146,26 @@ void FramePlay::beginPage(const FrameMoment &at)
         m_page = Page();
         return;
     }
-    m_page = {m_entries.at(at.item).node, at.moment.page, pageImage(at.item, at.moment.page)};
+    takePage(at);
+}
+
+/** The page before goes on until this one is found. */
+void FramePlay::takePage(const FrameMoment &at)
+{
+    LTextEffectNode *const node = m_entries.at(at.item).node;
+    const QImage image = pageImage(at.item, at.moment.page);
+    if (image.isNull() && m_pages->isCounting(node)) {
+        m_page.node = node;
+        m_page.index = -1;
+    } else {
+        m_page = {node, at.moment.page, image};
+    }
 }
 
 QImage FramePlay::pageImage(int item, int index)
 {
     LTextEffectNode *const node = m_entries.at(item).node;
-    if (node != nullptr && m_next.node == node && m_next.index == index) {
+    if (node != nullptr && m_next.node == node && m_next.index == index && !m_next.image.isNull()) {
         return m_next.image;
     }
     const QImage page = m_pages->page(node, index);

@@ -52,7 +52,8 @@ private:
     struct Entry
     {
         LiveNode<LTextEffectNode> node;
-        int pageCount = -1; ///< -1 when it must be asked for.
+        int pageCount = 0;
+        bool isCounted = false; ///< The count need not be asked for.
     };
     struct Page
     {
@@ -65,6 +66,7 @@ private:
                qint64 now);
     void beginPage(const player::FrameMoment &at);
     [[nodiscard]] QImage pageImage(int item, int index);
+    void takePage(const player::FrameMoment &at);
     [[nodiscard]] QImage draw() const;
 
     ItemPages *m_pages;

@@ -1,6 +1,7 @@
 #include "autosave.h"
 #include "lappconfig.h"
 #include "lcontrollernode.h"
+#include "livedata.h"
 #include "mainwindow.h"
 #include "noticebar.h"
 #include "programmedocument.h"
@@ -206,7 +207,7 @@ void MainWindow::exportPages()
         return;
     }
     m_settings.setExportFolder(folder);
-    auto *work = new PageExport(m_document->controller(), folder, this);
+    auto *work = new PageExport(m_document->controller(), m_live->snapshot(), folder, this);
     connect(work, &PageExport::finished, this, [this, work, folder](const auto &result) {
         tellExport(result, folder);
         work->deleteLater();

@@ -5,6 +5,7 @@
 #include "programmeitems.h"
 
 #include <QDir>
+#include <QElapsedTimer>
 #include <QProgressDialog>
 
 namespace workbench {
@@ -13,11 +14,15 @@ namespace {
 
 /** Steps of the progress bar for each item, shared by its pages. */
 constexpr int StepsOfItem = 100;
+/** The longest that counting pages may keep the window waiting, in milliseconds. */
+constexpr int CountTime = 6;
 
 } // namespace
 
-PageExport::PageExport(const LNode *programme, const QString &folder, QWidget *window)
+PageExport::PageExport(const LNode *programme, sources::DataSnapshot data, const QString &folder,
+                       QWidget *window)
     : QObject(window)
+    , m_data(std::move(data))
     , m_folder(folder)
     , m_dialog(new QProgressDialog(window))
 {
@@ -56,6 +61,8 @@ void PageExport::step()
     if (!m_dialog || m_dialog->wasCanceled()) {
         m_result.isCancelled = true;
         end();
+    } else if (m_renderer != nullptr && !m_isCounted) {
+        countPages();
     } else if (m_renderer != nullptr) {
         writePage();
     } else if (!nextItem()) {
@@ -73,9 +80,11 @@ bool PageExport::nextItem()
         return true;
     }
     m_dialog->setLabelText(tr("Writing the pages of %1…").arg(item.place));
-    m_renderer = std::make_unique<player::ItemRenderer>(item.node, item.place);
+    m_renderer = std::make_unique<player::ItemRenderer>(item.node, item.place, QSize(), m_data);
     m_stem = m_names.stemFor(item.node->name());
     m_nextPage = 0;
+    m_pageCount = 0;
+    m_isCounted = false;
     if (!m_renderer->hasPages()) {
         for (const player::Problem &problem : m_renderer->problems()) {
             m_result.problems.append(tr("%1: %2").arg(problem.place, problem.reason));
@@ -83,6 +92,16 @@ bool PageExport::nextItem()
         m_renderer.reset();
     }
     return true;
+}
+
+void PageExport::countPages()
+{
+    QElapsedTimer timer;
+    timer.start();
+    while (!m_isCounted && timer.elapsed() < CountTime) {
+        m_isCounted = !m_renderer->hasPage(m_pageCount);
+        m_pageCount += m_isCounted ? 0 : 1;
+    }
 }
 
 void PageExport::writePage()
@@ -96,9 +115,9 @@ void PageExport::writePage()
     }
     ++m_nextPage;
     m_dialog->setValue((m_nextItem - 1) * StepsOfItem +
-                       StepsOfItem * m_nextPage / m_renderer->pageCount());
+                       int(qint64(StepsOfItem) * m_nextPage / m_pageCount));
     // A folder that refuses one file refuses all: one reason is enough.
-    if (m_nextPage >= m_renderer->pageCount() || !reason.isEmpty()) {
+    if (m_nextPage >= m_pageCount || !reason.isEmpty()) {
         m_renderer.reset();
     }
 }

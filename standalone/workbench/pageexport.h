@@ -1,5 +1,6 @@
 #pragma once
 
+#include "datasnapshot.h"
 #include "ltexteffectnode.h"
 #include "pagefile.h"
 
@@ -38,7 +39,9 @@ public:
         QStringList problems; ///< place: reason, for items and pages that were not written.
     };
 
-    PageExport(const LNode *programme, const QString &folder, QWidget *window);
+    /** @p data is what the items show. */
+    PageExport(const LNode *programme, sources::DataSnapshot data, const QString &folder,
+               QWidget *window);
     ~PageExport() override;
 
     /** Begins; finished() comes later, in any case. */
@@ -56,10 +59,12 @@ private:
 
     void step();
     bool nextItem();
+    void countPages();
     void writePage();
     void end();
 
     QVector<Item> m_items;
+    sources::DataSnapshot m_data;
     QString m_folder;
     QPointer<QProgressDialog> m_dialog;
     QTimer m_timer;
@@ -67,6 +72,8 @@ private:
     std::unique_ptr<player::ItemRenderer> m_renderer;
     QString m_stem;
     int m_nextItem = 0;
+    int m_pageCount = 0; ///< Of the item, as far as they were counted.
+    bool m_isCounted = false;
     int m_nextPage = 0;
     Result m_result;
 };

@@ -168,7 +168,10 @@ void WallPanel::showPages(LTextEffectNode *node)
     // What plays follows by itself.
     for (int i = 0; i < m_shown.size(); ++i) {
         if (!m_player->isOn() && node != nullptr && m_shown.at(i).node == node) {
-            m_view->setPage(i, pictureOf(node));
+            const QImage picture = pictureOf(node);
+            if (!picture.isNull() || !m_pages->isCounting(node)) {
+                m_view->setPage(i, picture);
+            }
         }
     }
     if (node == m_item) {

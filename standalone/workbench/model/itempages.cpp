@@ -13,6 +13,8 @@
 #include <QElapsedTimer>
 #include <QSet>
 
+#include <limits>
+
 namespace workbench {
 
 namespace {
@@ -149,6 +151,8 @@ void ItemPages::dropPages(Item *item)
     item->renderer.reset();
     item->generation = 0;
     item->isCounted = false;
+    item->isCounting = false;
+    item->sought = -1;
     m_recent.removeAll(item->node.data());
 }
 
@@ -201,7 +205,9 @@ void ItemPages::publish()
     // Who types a very long text is not stopped at every breath by its being laid out.
     m_settle.setInterval(qBound(SettleTime, int(timer.elapsed()) * 4, LongestSettleTime));
     const std::shared_ptr<player::ItemRenderer> pages = m_items[node].renderer;
-    node->SetPageCount(pageCount(node));
+    const int count = pageCount(node);
+    // Who looks at a late page stays there while the pages are counted anew.
+    node->SetPageCount(isCounting(node) ? qMax(count, node->GetPageCount()) : count);
     node->PageChanged();
     // Who was told may have changed the node.
     if (node && node == m_watched && pages && m_items.value(node).renderer == pages) {
@@ -252,12 +258,29 @@ QImage ItemPages::page(LTextEffectNode *node, int index)
         return *kept;
     }
     player::ItemRenderer *const pages = renderer(node);
-    const QImage image = pages ? pages->finishedPage(index) : QImage();
+    if (!pages) {
+        return {};
+    }
+    Item &item = m_items[node];
+    if (index >= item.counted && !item.isCounted) {
+        count(&item, index + 1);
+    }
+    if (index >= item.counted && !item.isCounted) {
+        item.sought = index;
+        countLater(&item);
+        return {};
+    }
+    const QImage image = pages->finishedPage(index);
     if (!image.isNull()) {
         m_pages.insert({m_items.value(node).generation, index}, new QImage(image),
                        int(qMin<qint64>(image.sizeInBytes(), CacheBytes)));
     }
     return image;
+}
+
+bool ItemPages::isCounting(const LTextEffectNode *node) const
+{
+    return m_items.value(node).isCounting;
 }
 
 int ItemPages::pageCount(LTextEffectNode *node)
@@ -266,8 +289,9 @@ int ItemPages::pageCount(LTextEffectNode *node)
         return 0;
     }
     Item &item = m_items[node];
-    if (!item.isCounted && item.counted == 0) {
-        count(&item);
+    if (!item.isCounted) {
+        count(&item, std::numeric_limits<int>::max());
+        countLater(&item);
     }
     return item.counted;
 }

@@ -49,13 +49,18 @@ public:
      */
     void watch(LTextEffectNode *node);
 
-    /** Page @p index, from 0, as the screen shows it; null if there is none. */
+    /**
+     * Page @p index, from 0, as the screen shows it. Null if there is none, or if it
+     * is not found yet: while isCounting(), pagesChanged() tells that it is.
+     */
     [[nodiscard]] QImage page(LTextEffectNode *node, int index);
     /**
      * 0 when no page can be made. Of a table with very many rows the pages found until now, which
      * grow, announced by pagesChanged(), while the event loop runs.
      */
     [[nodiscard]] int pageCount(LTextEffectNode *node);
+    /** Whether a page or a count that was asked for is still being found. */
+    [[nodiscard]] bool isCounting(const LTextEffectNode *node) const;
     /** Why the item is not shown as meant. */
     [[nodiscard]] player::Problems problems(LTextEffectNode *node);
 
@@ -73,6 +78,8 @@ private:
         bool hadData = false;                           ///< Without any, it could not be told.
         int counted = 0;                                ///< Pages found until now.
         bool isCounted = false;                         ///< There are no more.
+        bool isCounting = false;                        ///< Somebody waits for more of them.
+        int sought = -1;                                ///< The page that is waited for.
         bool isChanged = false;                         ///< pagesChanged() is due.
         bool isNew = false;                             ///< The same, for the sake of new data.
     };
@@ -87,7 +94,8 @@ private:
     void tell(const QVector<QPointer<LTextEffectNode>> &changed);
     void onDataChanged(const QStringList &names);
     void announceData();
-    void count(Item *item);
+    void count(Item *item, int enough);
+    void countLater(Item *item);
     void countOn();
     void publish();
     void retranslate();

@@ -7,6 +7,7 @@
 #include <QElapsedTimer>
 
 #include <algorithm>
+#include <limits>
 #include <utility>
 
 namespace workbench {
@@ -47,16 +48,22 @@ void ItemPages::announceData()
     tell(changed);
 }
 
-/** Counts on for a moment; a later turn of the event loop goes on where it ends. */
-void ItemPages::count(Item *item)
+/** Counts on for a moment, until there are enough; a later turn of the event loop goes on. */
+void ItemPages::count(Item *item, int enough)
 {
     QElapsedTimer timer;
     timer.start();
-    while (!item->isCounted && (item->counted == 0 || timer.elapsed() < CountTime)) {
+    while (!item->isCounted && item->counted < enough &&
+           (item->counted == 0 || timer.elapsed() < CountTime)) {
         item->isCounted = !item->renderer->hasPage(item->counted);
         item->counted += item->isCounted ? 0 : 1;
     }
-    if (!item->isCounted) {
+}
+
+void ItemPages::countLater(Item *item)
+{
+    item->isCounting = !item->isCounted;
+    if (item->isCounting) {
         m_counting.start();
     }
 }
@@ -64,17 +71,24 @@ void ItemPages::count(Item *item)
 void ItemPages::countOn()
 {
     m_counting.stop();
+    QElapsedTimer timer;
+    timer.start();
     QVector<QPointer<LTextEffectNode>> counted;
     for (Item &item : m_items) {
-        if (item.renderer && !item.isCounted) {
-            count(&item);
-            if (item.isCounted) {
+        if (!item.isCounting || !item.renderer) {
+            continue;
+        }
+        if (timer.elapsed() < CountTime) {
+            count(&item, std::numeric_limits<int>::max());
+            if (item.isCounted || (item.sought >= 0 && item.sought < item.counted)) {
+                item.sought = -1;
                 counted.append(item.node);
             }
         }
+        countLater(&item);
     }
     for (const QPointer<LTextEffectNode> &node : qAsConst(counted)) {
-        if (node && node == m_watched) {
+        if (node && node == m_watched && m_items[node].isCounted) {
             node->SetPageCount(m_items[node].counted);
             node->PageChanged();
         }
