@@ -1784,6 +1784,18 @@
         <source>the query %1 has more than %2 rows</source>
         <translation>查询 %1 超过 %2 行</translation>
     </message>
+    <message>
+        <source>the certificate cannot be read: %1</source>
+        <translation>无法读取证书：%1</translation>
+    </message>
+    <message>
+        <source>there is no certificate in %1</source>
+        <translation>%1 中没有证书</translation>
+    </message>
+    <message>
+        <source>the server is not trusted: %1</source>
+        <translation>服务器不受信任：%1</translation>
+    </message>
 </context>
 <context>
     <name>TableMenu</name>
@@ -3527,6 +3539,22 @@ Free software under the MIT licence.</source>
     <message>
         <source>&amp;Queries:</source>
         <translation>查询(&amp;Q)：</translation>
+    </message>
+    <message>
+        <source>Certi&amp;ficate:</source>
+        <translation>证书(&amp;F)：</translation>
+    </message>
+    <message>
+        <source>file of one that the system does not trust</source>
+        <translation>系统不信任的证书的文件</translation>
+    </message>
+    <message>
+        <source>Certificates (*.pem *.crt *.cer)</source>
+        <translation>证书 (*.pem *.crt *.cer)</translation>
+    </message>
+    <message>
+        <source>SQLite databases (*.sqlite *.sqlite3 *.db)</source>
+        <translation>SQLite 数据库 (*.sqlite *.sqlite3 *.db)</translation>
     </message>
 </context>
 <context>

@@ -1,11 +1,17 @@
 #include "httpreader.h"
 
+#include "movedsources.h"
 #include "secrets.h"
 #include "sourcetexts.h"
+#include "systemreason.h"
 
+#include <QFile>
 #include <QLocale>
 #include <QNetworkAccessManager>
 #include <QNetworkReply>
+#include <QSslCertificate>
+#include <QSslConfiguration>
+#include <QSslError>
 
 namespace sources {
 
@@ -13,6 +19,7 @@ namespace {
 
 constexpr qint64 DefaultCap = 16LL * 1024 * 1024;
 constexpr int DefaultTimeout = 30000;
+constexpr int LargestCertificate = 1 << 20;
 constexpr int MostRedirections = 5;
 constexpr int LongestRetryAfter = 3600 * 1000;
 
@@ -111,7 +118,29 @@ QNetworkRequest HttpReader::request(const QUrl &url, QString *error) const
                                  resolveReferences(header.text, error).toUtf8());
         }
     }
+    if (isOrigin && !settings().certificate.isEmpty()) {
+        trustCertificate(&request, error);
+    }
     return request;
+}
+
+void HttpReader::trustCertificate(QNetworkRequest *request, QString *error) const
+{
+    QFile file(fullFileName(context().folder, settings().certificate));
+    if (!file.open(QIODevice::ReadOnly)) {
+        *error = SourceTexts::tr("the certificate cannot be read: %1")
+                     .arg(systemReason(file.errorString()));
+        return;
+    }
+    const QList<QSslCertificate> certificates =
+        QSslCertificate::fromData(file.read(LargestCertificate), QSsl::Pem);
+    if (certificates.isEmpty()) {
+        *error = SourceTexts::tr("there is no certificate in %1").arg(settings().certificate);
+        return;
+    }
+    QSslConfiguration configuration = request->sslConfiguration();
+    configuration.setCaCertificates(QSslConfiguration::systemCaCertificates() + certificates);
+    request->setSslConfiguration(configuration);
 }
 
 void HttpReader::get(const QUrl &url)
@@ -122,9 +151,12 @@ void HttpReader::get(const QUrl &url)
         return end(Reading::failed(error));
     }
     m_body.clear();
+    m_distrust.clear();
     m_reply = m_network->get(asked);
     m_reply->setReadBufferSize(1 << 20);
     connect(m_reply, &QIODevice::readyRead, this, &HttpReader::takeBytes);
+    connect(m_reply, &QNetworkReply::sslErrors, this,
+            [this](const QList<QSslError> &errors) { m_distrust = errors.value(0).errorString(); });
     connect(m_reply, &QNetworkReply::finished, this, &HttpReader::finishReply);
 }
 
@@ -181,6 +213,9 @@ Reading HttpReader::answered(bool *goesOn)
         Reading reading;
         reading.outcome = Reading::Unchanged;
         return reading;
+    }
+    if (!m_distrust.isEmpty() && m_reply->error() == QNetworkReply::SslHandshakeFailedError) {
+        return Reading::failed(SourceTexts::tr("the server is not trusted: %1").arg(m_distrust));
     }
     if (status < 400 && m_reply->error() != QNetworkReply::NoError) {
         return Reading::failed(

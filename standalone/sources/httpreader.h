@@ -28,6 +28,8 @@ public:
 
 private:
     [[nodiscard]] QNetworkRequest request(const QUrl &url, QString *error) const;
+    /** Trusts the certificates of the settings besides those that the system trusts. */
+    void trustCertificate(QNetworkRequest *request, QString *error) const;
     void get(const QUrl &url);
     void takeBytes();
     void finishReply();
@@ -51,6 +53,7 @@ private:
     QByteArray m_former;   ///< The body of the same attempt's answer before this one.
     QByteArray m_tag;      ///< ETag of the answer that was understood last.
     QByteArray m_modified; ///< Its Last-Modified.
+    QString m_distrust;    ///< Why the server that was asked last is not trusted.
     int m_redirections = 0;
 };
 

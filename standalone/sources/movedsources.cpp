@@ -48,8 +48,9 @@ private:
 
 QJsonObject movedSource(QJsonObject source, const Move &move)
 {
-    move.move(&source, QStringLiteral("file"));
-    move.move(&source, QStringLiteral("replay"));
+    for (const char *const key : {"file", "certificate", "replay"}) {
+        move.move(&source, QLatin1String(key));
+    }
     QJsonObject connection = source.value(QStringLiteral("connection")).toObject();
     // What other drivers call a database is no file.
     if (connection.value(QStringLiteral("driver")) == QLatin1String("QSQLITE")) {

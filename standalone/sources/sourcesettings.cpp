@@ -101,6 +101,7 @@ void forEachText(Settings *settings, Each each)
 {
     each(QStringLiteral("file"), &settings->file);
     each(QStringLiteral("url"), &settings->url);
+    each(QStringLiteral("certificate"), &settings->certificate);
     each(QStringLiteral("query"), &settings->query);
     each(QStringLiteral("format"), &settings->format);
     each(QStringLiteral("delimiter"), &settings->delimiter);

@@ -38,6 +38,7 @@ struct SourceSettings
     QString file; ///< Types 1 and 2; relative to the programme's folder.
     QString url;  ///< Type 3; http or https.
     QVector<NamedText> headers;
+    QString certificate; ///< PEM file of what signs the server's certificate; relative to folder.
     SqlConnection connection; ///< Type 4.
     QString query; ///< Its table is the member "rows"; those of queries have their names.
     QVector<NamedText> queries;

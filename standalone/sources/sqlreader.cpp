@@ -140,6 +140,9 @@ QString SqlReader::connectDatabase()
     }
     if (driver == QLatin1String("QPSQL")) {
         QSqlQuery(database).exec(QStringLiteral("SET statement_timeout = %1").arg(timeout()));
+    } else if (driver == QLatin1String("QMYSQL")) {
+        // The driver asks for three bytes a character at most: others would come as "?".
+        QSqlQuery(database).exec(QStringLiteral("SET NAMES utf8mb4"));
     }
     return QString();
 }

@@ -90,6 +90,7 @@ SourceSettings SourceDialog::settings() const
     if (m_url != nullptr) {
         settings.url = m_url->text().trimmed();
         settings.headers = headersOf(m_headers->toPlainText());
+        settings.certificate = m_certificate->text().trimmed();
     }
     if (m_driver != nullptr) {
         settings.connection.driver = m_driver->currentText();
@@ -124,6 +125,7 @@ QWidget *SourceDialog::fieldOf(const QString &path) const
         {QLatin1String("file"), m_file},
         {QLatin1String("url"), m_url},
         {QLatin1String("headers"), m_headers},
+        {QLatin1String("certificate"), m_certificate},
         {QLatin1String("connection.driver"), m_driver},
         {QLatin1String("connection.host"), m_host},
         {QLatin1String("connection.database"), m_database},

@@ -61,7 +61,9 @@ private:
     void buildEnd();
 
     [[nodiscard]] sources::SourceSettings settings() const;
-    void chooseFile();
+    /** A button that chooses a file for @p line, which is in the last row. */
+    QPushButton *addBrowse(QLineEdit *line, const QString &name, const QStringList &filters);
+    void chooseFile(QLineEdit *line, const QStringList &filters);
     void showServer();
     void check();
     /** The text says what is wrong and where; the field is null when it has none for it. */
@@ -87,10 +89,12 @@ private:
     QLineEdit *m_file = nullptr;
     QLineEdit *m_url = nullptr;
     QPlainTextEdit *m_headers = nullptr;
+    QLineEdit *m_certificate = nullptr;
     QComboBox *m_driver = nullptr;
     QLineEdit *m_host = nullptr;
     QSpinBox *m_port = nullptr;
     QLineEdit *m_database = nullptr;
+    QPushButton *m_browseDatabase = nullptr;
     QLineEdit *m_user = nullptr;
     QLineEdit *m_password = nullptr;
     QueryEdits *m_queries = nullptr;

@@ -66,10 +66,21 @@ void SourceDialog::buildFile()
 {
     m_file = addLine(QStringLiteral("SourceFile"), tr("&File:"), m_original.file,
                      tr("relative to the programme, or a full path"));
+    addBrowse(m_file, QStringLiteral("BrowseFile"),
+              {m_original.type == DataSourceEntry::JsonFile
+                   ? tr("JSON files (*.json)")
+                   : tr("CSV and text files (*.csv *.tsv *.txt)")});
+}
+
+QPushButton *SourceDialog::addBrowse(QLineEdit *line, const QString &name,
+                                     const QStringList &filters)
+{
     auto *browse = new QPushButton(tr("&Browse..."), this);
-    browse->setObjectName(QStringLiteral("BrowseFile"));
+    browse->setObjectName(name);
     m_grid->addWidget(browse, m_grid->rowCount() - 1, 2);
-    connect(browse, &QPushButton::clicked, this, &SourceDialog::chooseFile);
+    connect(browse, &QPushButton::clicked, this,
+            [this, line, filters] { chooseFile(line, filters); });
+    return browse;
 }
 
 void SourceDialog::buildHttp()
@@ -81,6 +92,11 @@ void SourceDialog::buildHttp()
                                   QStringLiteral("\nAuthorization: Bearer ${env:TOKEN}"));
     addRow(tr("&Headers:"), m_headers);
     connect(m_headers, &QPlainTextEdit::textChanged, this, &SourceDialog::check);
+    m_certificate =
+        addLine(QStringLiteral("SourceCertificate"), tr("Certi&ficate:"), m_original.certificate,
+                tr("file of one that the system does not trust"));
+    addBrowse(m_certificate, QStringLiteral("BrowseCertificate"),
+              {tr("Certificates (*.pem *.crt *.cer)")});
     m_interval =
         addSeconds(QStringLiteral("SourceInterval"), tr("&Read every:"), m_original.interval);
     m_timeout =
@@ -99,6 +115,8 @@ void SourceDialog::buildSql()
     addRow(tr("Dri&ver:"), m_driver);
     m_database = addLine(QStringLiteral("SourceDatabase"), tr("&Database:"), connection.database,
                          tr("its name, or its file with QSQLITE"));
+    m_browseDatabase = addBrowse(m_database, QStringLiteral("BrowseDatabase"),
+                                 {tr("SQLite databases (*.sqlite *.sqlite3 *.db)")});
     m_host = addLine(QStringLiteral("SourceHost"), tr("&Host:"), connection.host);
     m_port = new QSpinBox(this);
     m_port->setObjectName(QStringLiteral("SourcePort"));
@@ -127,6 +145,7 @@ void SourceDialog::showServer()
     for (QWidget *field : QVector<QWidget *>{m_host, m_port, m_user, m_password}) {
         field->setEnabled(hasServer);
     }
+    m_browseDatabase->setEnabled(!hasServer);
 }
 
 void SourceDialog::buildFormat()
@@ -160,22 +179,19 @@ void SourceDialog::buildFormat()
     addRow(tr("&Encoding:"), m_encoding);
 }
 
-void SourceDialog::chooseFile()
+void SourceDialog::chooseFile(QLineEdit *line, const QStringList &filters)
 {
     const QDir folder(m_data->context().folder);
     const QPointer<QFileDialog> dialog(new QFileDialog(this, tr("Choose a File"), folder.path()));
     dialog->setFileMode(QFileDialog::ExistingFile);
-    dialog->setNameFilters({m_original.type == DataSourceEntry::JsonFile
-                                ? tr("JSON files (*.json)")
-                                : tr("CSV and text files (*.csv *.tsv *.txt)"),
-                            tr("All files (*)")});
+    dialog->setNameFilters(filters + QStringList{tr("All files (*)")});
     const bool isAccepted = dialog->exec() == QDialog::Accepted;
     const QString chosen = dialog && isAccepted ? dialog->selectedFiles().value(0) : QString();
     delete dialog;
     if (!chosen.isEmpty()) {
         // Inside the programme's folder a relative name goes along when the folder is moved.
         const QString relative = folder.relativeFilePath(chosen);
-        m_file->setText(relative.startsWith(QLatin1String("..")) ? chosen : relative);
+        line->setText(relative.startsWith(QLatin1String("..")) ? chosen : relative);
     }
 }
 

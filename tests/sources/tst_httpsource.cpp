@@ -1,6 +1,7 @@
 #include "datasource.h"
 #include "loopbackserver.h"
 
+#include <QProcess>
 #include <QSignalSpy>
 #include <QtTest>
 
@@ -24,6 +25,8 @@ private slots:
     void largeAnswersEndEarly();
     void triesLessOftenWhileItFails();
     void secretsGoToOneServerOnly();
+    void trustsCertificates_data();
+    void trustsCertificates();
 
 private:
     void start(const QString &url, int backOff = 100000);
@@ -254,6 +257,60 @@ void TestHttpSource::secretsGoToOneServerOnly()
     QTRY_COMPARE(m_source->health().state, SourceHealth::Good);
     QVERIFY(m_server->requests.value(0).contains("Authorization: Bearer open sesame\r\n"));
     QVERIFY(!other.requests.value(0).contains("sesame"));
+}
+
+void TestHttpSource::trustsCertificates_data()
+{
+    QTest::addColumn<QByteArray>("name");
+    QTest::addColumn<QString>("trusted");
+    QTest::addColumn<QString>("error");
+    const QByteArray here = "IP:127.0.0.1";
+    QTest::newRow("unknown") << here << ""
+                             << "the server is not trusted: The certificate is self";
+    QTest::newRow("trusted") << here << "c.pem"
+                             << "";
+    QTest::newRow("another") << here << "other.pem"
+                             << "the server is not trusted: ";
+    QTest::newRow("another name") << QByteArray("DNS:other.example") << "c.pem"
+                                  << "the server is not trusted: The host name";
+    QTest::newRow("no file") << here << "gone.pem"
+                             << "the certificate cannot be read: No such";
+    QTest::newRow("no certificate") << here << "k.pem"
+                                    << "there is no certificate in ";
+}
+
+/** With certificates made for the occasion; a server that is not trusted is told nothing. */
+void TestHttpSource::trustsCertificates()
+{
+    QFETCH(QByteArray, name);
+    QFETCH(QString, trusted);
+    QFETCH(QString, error);
+    const QTemporaryDir folder;
+    const auto make = [&folder](const QString &file, const QString &key,
+                                const QByteArray &forName) {
+        return QProcess::execute("openssl",
+                                 {"req", "-x509", "-newkey", "rsa:2048", "-nodes", "-days", "2",
+                                  "-subj", "/CN=test", "-addext", "subjectAltName=" + forName,
+                                  "-keyout", folder.filePath(key), "-out", folder.filePath(file)});
+    };
+    if (QStandardPaths::findExecutable("openssl").isEmpty()) {
+        QSKIP("there is no program openssl");
+    }
+    QVERIFY(make("c.pem", "k.pem", name) == 0 && make("other.pem", "k2.pem", name) == 0);
+    QFile key(folder.filePath("k.pem"));
+    QVERIFY(key.open(QIODevice::ReadOnly));
+    m_server->key = QSslKey(key.readAll(), QSsl::Rsa);
+    m_server->certificate = QSslCertificate::fromPath(folder.filePath("c.pem")).value(0);
+    m_server->handler = [](const QByteArray &) {
+        return LoopbackServer::reply("{\"v\": 1}");
+    };
+    m_settings.certificate = trusted.isEmpty() ? trusted : folder.filePath(trusted);
+    start(m_server->url());
+    QTRY_COMPARE(m_source->health().state,
+                 error.isEmpty() ? SourceHealth::Good : SourceHealth::Failed);
+    const QString told = m_source->health().error;
+    QVERIFY2(error.isEmpty() ? told.isEmpty() : told.startsWith(error), qPrintable(told));
+    QCOMPARE(m_server->requests.size(), error.isEmpty() ? 1 : 0);
 }
 
 QTEST_GUILESS_MAIN(TestHttpSource)

@@ -1,6 +1,9 @@
 #pragma once
 
 #include <QHostAddress>
+#include <QSslCertificate>
+#include <QSslKey>
+#include <QSslSocket>
 #include <QTcpServer>
 #include <QTcpSocket>
 #include <QTimer>
@@ -30,7 +33,10 @@ public:
 
     [[nodiscard]] QString url(const QString &path = QStringLiteral("/")) const
     {
-        return QStringLiteral("http://127.0.0.1:%1%2").arg(serverPort()).arg(path);
+        return QStringLiteral("%1://127.0.0.1:%2%3")
+            .arg(QLatin1String(key.isNull() ? "http" : "https"))
+            .arg(serverPort())
+            .arg(path);
     }
     /** An answer with its length; @p head are further lines, each with its end. */
     [[nodiscard]] static QByteArray
@@ -42,11 +48,28 @@ public:
     }
 
     Handler handler;
+    QSslKey key; ///< With one, and its certificate, the server speaks TLS only.
+    QSslCertificate certificate;
     QList<QByteArray> requests;
     qint64 sent = 0;       ///< Bytes that clients took.
     qint64 endless = 0;    ///< Further bytes that follow the answer.
     int drip = 0;          ///< Milliseconds between two bytes; 0: all at once.
     bool isSilent = false; ///< Takes requests and never answers.
+
+protected:
+    void incomingConnection(qintptr descriptor) override
+    {
+        if (key.isNull()) {
+            QTcpServer::incomingConnection(descriptor);
+            return;
+        }
+        auto *socket = new QSslSocket(this);
+        socket->setSocketDescriptor(descriptor);
+        socket->setPrivateKey(key);
+        socket->setLocalCertificate(certificate);
+        socket->startServerEncryption();
+        addPendingConnection(socket);
+    }
 
 private:
     void answer(QTcpSocket *socket, const QByteArray &request)
