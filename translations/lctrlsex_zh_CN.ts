@@ -2614,6 +2614,10 @@
         <source>%1 ago</source>
         <translation>%1前</translation>
     </message>
+    <message>
+        <source>Stale for %1</source>
+        <translation>已过期%1</translation>
+    </message>
 </context>
 <context>
     <name>workbench::DataPanel</name>

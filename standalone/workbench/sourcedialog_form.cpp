@@ -93,7 +93,7 @@ void SourceDialog::addRow(const QString &label, QWidget *field)
     text->setBuddy(field);
     const bool isTall = field->sizeHint().height() > 2 * fontMetrics().lineSpacing() + 16;
     m_grid->addWidget(text, row, 0, isTall ? Qt::AlignTop : Qt::AlignVCenter);
-    m_grid->addWidget(field, row, 1);
+    m_grid->addWidget(field, row, 1, 1, 2);
 }
 
 QString SourceDialog::labelOf(const QWidget *field) const

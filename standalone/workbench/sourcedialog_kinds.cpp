@@ -77,7 +77,10 @@ QPushButton *SourceDialog::addBrowse(QLineEdit *line, const QString &name,
 {
     auto *browse = new QPushButton(tr("&Browse..."), this);
     browse->setObjectName(name);
-    m_grid->addWidget(browse, m_grid->rowCount() - 1, 2);
+    const int row = m_grid->rowCount() - 1;
+    m_grid->removeWidget(line);
+    m_grid->addWidget(line, row, 1);
+    m_grid->addWidget(browse, row, 2);
     connect(browse, &QPushButton::clicked, this,
             [this, line, filters] { chooseFile(line, filters); });
     return browse;

@@ -290,6 +290,9 @@ QString DataModel::stateText(const SourceHealth &health, bool isEnabled)
 
 QString DataModel::shortStateText(const SourceHealth &health, bool isEnabled)
 {
+    if (isEnabled && health.state == SourceHealth::Stale) {
+        return tr("Stale for %1").arg(ageText(health.age()));
+    }
     if (!isEnabled || health.state != SourceHealth::Good) {
         return stateText(health, isEnabled);
     }

@@ -51,7 +51,10 @@ public:
 
     /** Texts in the current language. */
     void retranslate();
-    /** How a source is doing, in a few words; the short text leaves out how long it took. */
+    /**
+     * How a source is doing, in a few words; the short text leaves out how long it took and why its
+     * data is stale.
+     */
     [[nodiscard]] static QString stateText(const sources::SourceHealth &health, bool isEnabled);
     [[nodiscard]] static QString shortStateText(const sources::SourceHealth &health,
                                                 bool isEnabled);
