@@ -75,6 +75,8 @@ QLineEdit *ExpressionEditor::addNumber(QHBoxLayout *layout, const QString &text,
 {
     QLineEdit *edit = addEdit(layout, text, hint);
     static const QRegularExpression number(QStringLiteral("^-?\\d*\\.?\\d+$"));
+    constexpr int frame = 18;
+    edit->setMinimumWidth(edit->fontMetrics().horizontalAdvance(hint) + frame);
     edit->setValidator(new QRegularExpressionValidator(number, edit));
     return edit;
 }

@@ -175,9 +175,9 @@ private:
     /** The text of the calculations, whose default values the editor offers from then on. */
     [[nodiscard]] QString DynamicDataListToJsonCalculation();
     void JsonToDynamicDataListCalculation(const QString &text);
-    /** All styles with qualified keys, and the fields on offer. */
+    /** All styles with qualified keys, and the single fields on offer, the table's in front. */
     void PrepareDynamicDataWithPrefix(DynamicData &combinedData);
-    /** All calculations, and the fields on offer with their values; what else is there stays. */
+    /** All calculations, and the same fields with their values; what else is there stays. */
     void PrepareDynamicDataCal(CalculationDynamicData &combinedData);
     void ProcessDialogResult(DynamicData resultData);
     void ProcessDialogResultCalculation(CalculationDynamicData resultData);
@@ -196,8 +196,9 @@ private:
     /** Values of the fields that an item may use, by qualified name. */
     [[nodiscard]] static QMap<QString, QString>
     FieldsOnOffer(const DataSourceConfig &config, const QVector<DynamicDataSource> &sources);
+    /** The single ones of @p fields, those of the key @p bound in front. */
     [[nodiscard]] static QVector<CalculationVariable>
-    VariablesOf(const QMap<QString, QString> &fields);
+    VariablesOf(const QMap<QString, QString> &fields, const QString &bound);
     /** False when node, configuration and fields are those of the last time. */
     bool RegisterFields();
     /** Key of the table as its type has it; empty when it is unbound. */

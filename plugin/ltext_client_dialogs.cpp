@@ -4,6 +4,7 @@
 #include "lmodbusparameteroperation.h"
 #include "ltext_client_p.h"
 #include "messagebox.h"
+#include "table/singlefields.h"
 
 #include <QCryptographicHash>
 #include <QDir>
@@ -92,12 +93,14 @@ void LTextClient::UpdateDialogs()
     const DataSourceConfigManager *const manager = DataSourceConfigManager::instance();
     const QMap<QString, QString> fields =
         FieldsOnOffer(manager->GetConfig(), manager->GetDynamicData());
+    const QString bound = BoundField();
     if (m_stylesDialog) {
-        m_stylesDialog->setFields(fields.keys());
-        m_stylesDialog->setLiveValues(fields);
+        const QMap<QString, QString> values = lctrlsex::singleFields(fields);
+        m_stylesDialog->setFields(lctrlsex::fieldsInOrder(values, bound));
+        m_stylesDialog->setLiveValues(values);
     }
     if (m_operationsDialog) {
-        m_operationsDialog->setVariables(VariablesOf(fields));
+        m_operationsDialog->setVariables(VariablesOf(fields, bound));
     }
 }
 

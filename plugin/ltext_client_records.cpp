@@ -1,5 +1,6 @@
 #include "conditionalstyles.h"
 #include "ltext_client_p.h"
+#include "table/singlefields.h"
 #include "textedit.h"
 
 #include <QLoggingCategory>
@@ -54,7 +55,9 @@ void LTextClient::PrepareDynamicDataWithPrefix(DynamicData &combinedData)
     const Bound bound(this);
     const QMap<QString, QString> fields = bound.value(&LTextEffectNode::FieldNameValues);
     if (bound) {
-        combinedData = lctrlsex::combinedStyles(m_conditionalStyles, fields.keys());
+        combinedData = lctrlsex::combinedStyles(
+            m_conditionalStyles,
+            lctrlsex::fieldsInOrder(lctrlsex::singleFields(fields), BoundField()));
     }
 }
 
@@ -65,16 +68,17 @@ void LTextClient::PrepareDynamicDataCal(CalculationDynamicData &combinedData)
     if (!bound) {
         return;
     }
-    combinedData.variables = VariablesOf(fields);
+    combinedData.variables = VariablesOf(fields, BoundField());
     combinedData.conditions = m_calculations;
 }
 
-QVector<CalculationVariable> LTextClient::VariablesOf(const QMap<QString, QString> &fields)
+QVector<CalculationVariable> LTextClient::VariablesOf(const QMap<QString, QString> &fields,
+                                                      const QString &bound)
 {
+    const QMap<QString, QString> values = lctrlsex::singleFields(fields);
     QVector<CalculationVariable> variables;
-    variables.reserve(fields.size());
-    for (auto field = fields.cbegin(); field != fields.cend(); ++field) {
-        variables.append({field.key(), field.value()});
+    for (const QString &name : lctrlsex::fieldsInOrder(values, bound)) {
+        variables.append({name, values.value(name)});
     }
     return variables;
 }

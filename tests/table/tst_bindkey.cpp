@@ -1,4 +1,5 @@
 #include "table/bindkey.h"
+#include "table/singlefields.h"
 
 #include <QElapsedTimer>
 #include <QtTest>
@@ -14,6 +15,7 @@ private slots:
     void kinds_data();
     void kinds();
     void isLinear();
+    void singleFieldsOfKeys();
 };
 
 void TestBindKey::kinds_data()
@@ -71,6 +73,22 @@ void TestBindKey::isLinear()
                  part == "a.{" ? 21 : 0);
     }
     QVERIFY(timer.elapsed() < 2000);
+}
+
+void TestBindKey::singleFieldsOfKeys()
+{
+    const QMap<QString, QString> fields = singleFields({{"Cafe:goods.{name,price}[]", "Tea\n2.10"},
+                                                        {"Cafe:now.{a,b}", "one\ntwo\nlines"},
+                                                        {"Cafe:names[]", "x\ny"},
+                                                        {"Sky:wind", "3"}});
+    const QMap<QString, QString> expected{{"Cafe:goods.name", "Tea"}, {"Cafe:goods.price", "2.10"},
+                                          {"Cafe:now.a", ""},         {"Cafe:now.b", ""},
+                                          {"Cafe:names[]", "x\ny"},   {"Sky:wind", "3"}};
+    QCOMPARE(fields, expected);
+    QCOMPARE(fieldsInOrder(fields, "Sky:wind").first(), QString("Sky:wind"));
+    QCOMPARE(fieldsInOrder(fields, "Cafe:now.{a,b}").mid(0, 3),
+             (QStringList{"Cafe:now.a", "Cafe:now.b", "Cafe:goods.name"}));
+    QCOMPARE(fieldsInOrder(fields, "").size(), 6);
 }
 
 QTEST_GUILESS_MAIN(TestBindKey)
