@@ -183,9 +183,8 @@ int DataLines::valueCount(int line) const
     if (span.count > 0 && !m_isSingle) {
         return span.count;
     }
-    const bool isNamed = m_ownFields > 0 && m_fields.front().position < 0;
     const DataValue value = entry(line);
-    return isNamed ? m_ownFields : value.kind() == DataValue::Kind::Text ? 1 : value.size();
+    return isNamed() ? m_ownFields : value.kind() == DataValue::Kind::Text ? 1 : value.size();
 }
 
 int DataLines::longestLine() const
@@ -205,8 +204,7 @@ QString DataLines::valueAt(int line, int position) const
     if (line < 0 || line >= m_count || position < 0) {
         return {};
     }
-    const bool isNamed = m_ownFields > 0 && m_fields.front().position < 0;
-    if (isNamed) {
+    if (isNamed()) {
         return position < m_ownFields ? value(line, position) : QString();
     }
     const Span span = spanOf(line);
@@ -259,9 +257,19 @@ int DataLines::findField(const QString &name)
     return int(m_fields.size()) - 1;
 }
 
+int DataLines::fieldAt(int position) const
+{
+    return isNamed() && position < m_ownFields ? position : -1;
+}
+
+bool DataLines::isValue(int line, int field) const
+{
+    return line >= 0 && line < m_count && field >= 0 && field < int(m_fields.size());
+}
+
 QString DataLines::value(int line, int index) const
 {
-    if (line < 0 || line >= m_count || index < 0 || index >= int(m_fields.size())) {
+    if (!isValue(line, index)) {
         return {};
     }
     const Field &field = m_fields[size_t(index)];
@@ -272,6 +280,12 @@ QString DataLines::value(int line, int index) const
         return valueAt(line, field.position);
     }
     return player::valueAt(entry(line), field.path).text();
+}
+
+std::string_view DataLines::utf8(int line, int index) const
+{
+    const int column = isValue(line, index) ? m_fields[size_t(index)].column : -1;
+    return column >= 0 ? m_value.table()->utf8(line, column) : std::string_view();
 }
 
 } // namespace player

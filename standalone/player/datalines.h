@@ -52,8 +52,12 @@ public:
      * record decides whether there is such a one.
      */
     [[nodiscard]] int findField(const QString &name);
+    /** The index of what valueAt() gives there; -1 where the key names no fields. */
+    [[nodiscard]] int fieldAt(int position) const;
     /** A value by an index that was got here. Null as above. */
     [[nodiscard]] QString value(int line, int field) const;
+    /** The same where a table holds it in UTF-8; else null. */
+    [[nodiscard]] std::string_view utf8(int line, int field) const;
 
 private:
     /** A path from a line to a value. */
@@ -69,6 +73,8 @@ private:
         int count = 0; ///< 0 for an entry that is a line by itself.
     };
 
+    [[nodiscard]] bool isNamed() const { return m_ownFields > 0 && m_fields.front().position < 0; }
+    [[nodiscard]] bool isValue(int line, int field) const;
     void setValue(const sources::DataValue &value, int kind, const LineShape &shape);
     void setText(const QString &text, const LineShape &shape);
     void setEntries(int perLine);

@@ -20,7 +20,7 @@ ValueRef resolved(const TemplateSlot &slot, Placeholders placeholders, ItemValue
         return {};
     }
     if (placeholders == Placeholders::InOrder && slot.number >= 0) {
-        return {ValueRef::Position, slot.number};
+        return values->position(slot.number);
     }
     const ValueRef found = values->placeholder(slot.name);
     const bool needsLine = found.kind == ValueRef::Position || found.kind == ValueRef::Field;
@@ -62,11 +62,12 @@ public:
         if (!m_filled.isFilled(index)) {
             return false;
         }
-        const QString value = m_filled.value(index, m_line, m_sources);
-        if (value.isEmpty() && m_filled.m_text.slotList().at(index).isAlone) {
+        const TemplateSlot &slot = m_filled.m_text.slotList().at(index);
+        const int before = html->size();
+        m_sources.values->append(html, m_filled.m_slots.at(index), lineOf(slot.line));
+        if (slot.isAlone && html->size() == before) {
             *html += QChar(Nothing);
         }
-        appendValue(html, value);
         return true;
     }
 

@@ -2,6 +2,7 @@
 
 #include "datapath.h"
 #include "recordsjson.h"
+#include "templatetext.h"
 
 #include <utility>
 
@@ -16,12 +17,18 @@ ItemValues::ItemValues(sources::DataSnapshot data, const ValueSettings &settings
     calculationsFromJson(settings.calculations, &m_stored);
 }
 
+ValueRef ItemValues::position(int number) const
+{
+    const int field = m_lines.fieldAt(number);
+    return field >= 0 ? ValueRef{ValueRef::Field, field} : ValueRef{ValueRef::Position, number};
+}
+
 ValueRef ItemValues::placeholder(const QString &name)
 {
     bool isNumber = false;
     const int number = name.toInt(&isNumber);
     if (isNumber && number >= 0) {
-        return {ValueRef::Position, number};
+        return position(number);
     }
     const int field = m_lines.fieldIndex(name);
     return field >= 0 ? ValueRef{ValueRef::Field, field} : calculation(name);
@@ -169,6 +176,17 @@ QString ItemValues::value(ValueRef ref, int line)
         break;
     }
     return {};
+}
+
+void ItemValues::append(QString *html, ValueRef ref, int line)
+{
+    const std::string_view cell =
+        ref.kind == ValueRef::Field ? m_lines.utf8(line, ref.index) : std::string_view();
+    if (cell.data() != nullptr) {
+        appendValue(html, cell);
+    } else {
+        appendValue(html, value(ref, line));
+    }
 }
 
 } // namespace player

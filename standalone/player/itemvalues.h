@@ -45,6 +45,8 @@ public:
     void setLines(const DataLines &lines) { m_lines = lines; }
     [[nodiscard]] const DataLines &lines() const { return m_lines; }
 
+    /** A value by its position on the line. */
+    [[nodiscard]] ValueRef position(int number) const;
     /** A placeholder in text: a number is a position; else a field of the key or a calculation. */
     [[nodiscard]] ValueRef placeholder(const QString &name);
     /**
@@ -58,6 +60,9 @@ public:
      * lines.
      */
     [[nodiscard]] QString value(ValueRef ref, int line);
+
+    /** The same as an HTML text, see appendValue(), behind what @p html holds. */
+    void append(QString *html, ValueRef ref, int line);
 
     /** Keys that lead nowhere in the data, of all that were looked up. */
     [[nodiscard]] const QSet<QString> &unresolvedKeys() const { return m_unresolved; }

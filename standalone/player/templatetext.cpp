@@ -3,6 +3,8 @@
 #include "htmltokens.h"
 #include "table/fieldformat.h"
 
+#include <algorithm>
+
 namespace player {
 
 using namespace lctrlsex;
@@ -99,6 +101,19 @@ void appendValue(QString *html, const QString &value)
     }
     if (size < value.size()) {
         *html += QChar(0x2026);
+    }
+}
+
+void appendValue(QString *html, std::string_view utf8)
+{
+    const bool isPlainAscii =
+        utf8.size() <= LongestValue && std::all_of(utf8.begin(), utf8.end(), [](char c) {
+            return uchar(c) < 0x80 && isPlain(uchar(c));
+        });
+    if (isPlainAscii) { // as it is, without a text of its own
+        html->append(QLatin1String(utf8.data(), int(utf8.size())));
+    } else {
+        appendValue(html, QString::fromUtf8(utf8.data(), int(utf8.size())));
     }
 }
 

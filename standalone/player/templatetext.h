@@ -4,6 +4,8 @@
 #include <QStringView>
 #include <QVector>
 
+#include <string_view>
+
 namespace player {
 
 /** Writes @p value so that it shows as itself in HTML; see appendValue(). */
@@ -13,6 +15,8 @@ namespace player {
  * the text engine cannot hold as U+FFFD. Of a value longer than LongestValue the rest is cut off.
  */
 void appendValue(QString *html, const QString &value);
+/** The same for a value in UTF-8. */
+void appendValue(QString *html, std::string_view utf8);
 /** The same value as the text that shows, with QChar::LineSeparator for line ends. */
 [[nodiscard]] QString shownText(const QString &value);
 /** The most characters that one value shows. */

@@ -19,18 +19,18 @@ CellTable::CellTable(const QStringList &columns, Cells cells)
     , m_cells(std::move(cells))
 {}
 
-QString CellTable::text(int row, int column) const
+std::string_view CellTable::utf8(int row, int column) const
 {
     const size_t first = m_cells.starts[size_t(row)];
     const size_t rowEnd = size_t(row) + 1 < m_cells.starts.size() ? m_cells.starts[size_t(row) + 1]
                                                                   : m_cells.ends.size();
     const size_t cell = first + size_t(column);
     if (cell >= rowEnd || (m_cells.ends[cell] & Missing) != 0) {
-        return QString();
+        return {};
     }
     const quint32 start = cell == 0 ? 0 : m_cells.ends[cell - 1] & ~Missing;
-    const int size = int(m_cells.ends[cell] - start);
-    return size == 0 ? QStringLiteral("") : QString::fromUtf8(m_cells.bytes.data() + start, size);
+    const size_t size = m_cells.ends[cell] - start;
+    return size == 0 ? std::string_view("") : std::string_view(&m_cells.bytes[start], size);
 }
 
 bool CellTable::isSameAs(const CellTable &other) const

@@ -21,7 +21,7 @@ public:
     CellTable(const QStringList &columns, Cells cells);
 
     [[nodiscard]] int rowCount() const override { return int(m_cells.starts.size()); }
-    [[nodiscard]] QString text(int row, int column) const override;
+    [[nodiscard]] std::string_view utf8(int row, int column) const override;
     /** Equal to the byte; two tables that are not may still hold the same. */
     [[nodiscard]] bool isSameAs(const CellTable &other) const;
 

@@ -116,6 +116,12 @@ DataTable::DataTable(QStringList columns)
 
 DataTable::~DataTable() = default;
 
+QString DataTable::text(int row, int column) const
+{
+    const std::string_view cell = utf8(row, column);
+    return QString::fromUtf8(cell.data(), int(cell.size()));
+}
+
 DataValue DataValue::fromText(const QString &text)
 {
     return text.isNull() ? DataValue() : DataValue(std::make_shared<TextRep>(text));

@@ -5,6 +5,7 @@
 #include <QVector>
 
 #include <memory>
+#include <string_view>
 #include <utility>
 
 namespace sources {
@@ -26,8 +27,10 @@ public:
     /** Index of the column of that name, -1 when there is none. */
     [[nodiscard]] int columnOf(const QString &name) const { return m_columns.indexOf(name); }
     [[nodiscard]] virtual int rowCount() const = 0;
-    /** A cell within the table; null when it is missing there. */
-    [[nodiscard]] virtual QString text(int row, int column) const = 0;
+    /** A cell within the table, where it stands in UTF-8; null when it is missing there. */
+    [[nodiscard]] virtual std::string_view utf8(int row, int column) const = 0;
+    /** The same as a text. */
+    [[nodiscard]] QString text(int row, int column) const;
 
 private:
     const QStringList m_columns;
