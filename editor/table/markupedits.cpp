@@ -39,9 +39,9 @@ QString escapedValue(const HtmlAttribute &attribute)
                : attributeText(attribute).toHtmlEscaped();
 }
 
-QString editText(QLatin1String key, const QString &value, const HtmlAttribute &old)
+QString editText(QLatin1String key, const QString &value, bool isReplaced)
 {
-    const QString blank = isThere(old) ? QString() : QStringLiteral(" ");
+    const QString blank = isReplaced ? QString() : QStringLiteral(" ");
     return blank + key + QLatin1String("=\"") + value + QLatin1Char('"');
 }
 

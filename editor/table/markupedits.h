@@ -28,8 +28,8 @@ struct MarkupEdit
 
 /** Where further attributes of a tag go. */
 [[nodiscard]] int insertionPlace(const HtmlToken &tag);
-/** What gives an attribute a value: in place of @p old, or with a blank before it if none is. */
-[[nodiscard]] QString editText(QLatin1String key, const QString &value, const HtmlAttribute &old);
+/** What gives an attribute a value: in place of an old one, or else with a blank before it. */
+[[nodiscard]] QString editText(QLatin1String key, const QString &value, bool isReplaced);
 /** @p text, an editText(), at the place of @p old or else at @p insertAt. */
 [[nodiscard]] MarkupEdit editOf(const QString &text, const HtmlAttribute &old, int insertAt);
 

@@ -52,7 +52,7 @@ BorderTexts::BorderTexts(const TableBorder &border)
     : m_declaration(border.declaration().toHtmlEscaped())
     , m_behind(QLatin1Char(' ') + m_declaration)
     , m_apart(QLatin1Char(';') + m_behind)
-    , m_bare(editText(QLatin1String("style"), m_behind, HtmlAttribute()))
+    , m_bare(editText(QLatin1String("style"), m_behind, false))
 {}
 
 MarkupEdit BorderTexts::editOf(const HtmlAttribute &style, int insertAt) const
@@ -67,7 +67,7 @@ MarkupEdit BorderTexts::editOf(const HtmlAttribute &style, int insertAt) const
         return {style.end - 1, style.end - 1, isEnded ? m_behind : m_apart};
     }
     const QString all = withDeclaration(escapedValue(style), m_declaration);
-    return lctrlsex::editOf(editText(QLatin1String("style"), all, style), style, insertAt);
+    return lctrlsex::editOf(editText(QLatin1String("style"), all, true), style, insertAt);
 }
 
 } // namespace lctrlsex

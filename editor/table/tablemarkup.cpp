@@ -9,6 +9,7 @@
 #include <QVector>
 
 #include <algorithm>
+#include <utility>
 #include <vector>
 
 namespace lctrlsex {
@@ -21,112 +22,109 @@ int spanOf(const HtmlToken &cell, QLatin1String key)
     return isThere(attribute) ? attributeText(attribute).toInt() : 1;
 }
 
-/** What of a cell's tag matters here. */
-struct Cell
-{
-    HtmlAttribute style;
-    HtmlAttribute width;
-    int insertAt;
-};
-
-/** A table whose end was not read yet. */
+/** A table whose end was not read yet. Its edits are made in order, those of widths without text.
+ */
 class OpenTable
 {
 public:
-    explicit OpenTable(const HtmlToken &tag)
-        : m_tag(tag)
-        , m_border(tag)
+    OpenTable(const HtmlToken &tag, const TableMarks &marks, std::vector<MarkupEdit> *edits)
+        : m_border(TableBorder(tag))
         , m_width(valueOf(tag, QLatin1String("width")).toInt())
-    {}
+        , m_perJoint(TableBorder(tag).pixels() +
+                     2 * valueOf(tag, QLatin1String("cellpadding"), QStringLiteral("1")).toInt())
+        , m_edits(edits)
+    {
+        mark(tag, marks);
+    }
 
     void addRow()
     {
-        const size_t expected = m_cells.empty() ? 0 : m_cells.back().size();
-        m_cells.emplace_back();
-        m_cells.back().reserve(expected);
-        m_extents.append(QVector<CellExtent>());
-        m_extents.last().reserve(int(expected));
+        const int expected = m_rows.isEmpty() ? 0 : m_rows.last().size();
+        m_rows.append(QVector<CellExtent>());
+        m_rows.last().reserve(expected);
     }
 
     void addCell(const HtmlToken &tag)
     {
-        if (m_cells.empty()) {
+        if (m_rows.isEmpty()) {
             return;
         }
-        ++m_cellCount;
         const HtmlAttribute width = attributeOf(tag, QLatin1String("width"));
-        m_cells.back().push_back(
-            {attributeOf(tag, QLatin1String("style")), width, insertionPlace(tag)});
-        m_extents.last().append(
-            {spanOf(tag, QLatin1String("rowspan")), spanOf(tag, QLatin1String("colspan")),
-             isThere(width) ? pixelsOfWidth(attributeText(width), m_width) : -1});
+        m_rows.last().append({spanOf(tag, QLatin1String("rowspan")),
+                              spanOf(tag, QLatin1String("colspan")),
+                              isThere(width) ? pixelsOfWidth(attributeText(width), m_width) : -1});
+        const int place = insertionPlace(tag);
+        m_edits->push_back(m_border.editOf(attributeOf(tag, QLatin1String("style")), place));
+        if (m_width > 0) {
+            m_edits->push_back(editOf(QString(), width, place));
+            const auto last = m_edits->end() - 1;
+            const bool isFirst = last->begin < last[-1].begin;
+            if (isFirst) {
+                std::swap(*last, last[-1]);
+            }
+            m_widthEdits.push_back(m_edits->size() - (isFirst ? 2 : 1));
+        }
     }
 
-    void finish(const TableMarks &marks, std::vector<MarkupEdit> *edits) const
+    /** Writes the widths, which only all cells together decide. */
+    void finish() const
     {
-        edits->reserve(edits->size() + 2 * m_cellCount + 8);
-        markTable(marks, edits);
-        const QVector<QVector<int>> widths =
-            m_width > 0 ? cellWidths(m_extents, m_width, m_border.pixels() + 2 * padding())
-                        : QVector<QVector<int>>();
-        const BorderTexts border(m_border);
+        if (m_width <= 0) {
+            return;
+        }
         QHash<int, QString> numbers; // the same few widths stand in every row
-        for (size_t row = 0; row < m_cells.size(); ++row) {
-            for (size_t i = 0; i < m_cells[row].size(); ++i) {
-                const Cell &cell = m_cells[row][i];
-                edits->push_back(border.editOf(cell.style, cell.insertAt));
-                if (widths.isEmpty()) {
-                    continue;
-                }
-                const int pixels = widths[int(row)][int(i)];
-                QString &number = numbers[isThere(cell.width) ? pixels : -1 - pixels];
+        auto place = m_widthEdits.begin();
+        for (const QVector<int> &row : cellWidths(m_rows, m_width, m_perJoint)) {
+            for (const int pixels : row) {
+                MarkupEdit &edit = (*m_edits)[*place++];
+                const bool isReplaced = edit.end > edit.begin;
+                QString &number = numbers[isReplaced ? pixels : -1 - pixels];
                 if (number.isEmpty()) {
-                    number = editText(QLatin1String("width"), QString::number(pixels), cell.width);
+                    number = editText(QLatin1String("width"), QString::number(pixels), isReplaced);
                 }
-                edits->push_back(editOf(number, cell.width, cell.insertAt));
-                if (edits->back().begin < edits->end()[-2].begin) {
-                    std::swap(edits->back(), edits->end()[-2]); // in order, nothing is to be sorted
-                }
+                edit.text = number;
             }
         }
     }
 
 private:
-    [[nodiscard]] int padding() const
+    void mark(const HtmlToken &tag, const TableMarks &marks)
     {
-        return valueOf(m_tag, QLatin1String("cellpadding"), QStringLiteral("1")).toInt();
-    }
-
-    void markTable(const TableMarks &marks, std::vector<MarkupEdit> *edits) const
-    {
-        const auto mark = [this, edits](QLatin1String key, const QString &value) {
-            const HtmlAttribute old = attributeOf(m_tag, key);
-            edits->push_back(editOf(editText(key, value, old), old, insertionPlace(m_tag)));
+        const auto first = std::ptrdiff_t(m_edits->size());
+        const auto add = [this, &tag](QLatin1String key, const QString &value) {
+            const HtmlAttribute old = attributeOf(tag, key);
+            m_edits->push_back(
+                editOf(editText(key, value, isThere(old)), old, insertionPlace(tag)));
         };
         const auto flag = [](bool on) {
             return on ? QStringLiteral("true") : QStringLiteral("false");
         };
-        const QString style = escapedValue(attributeOf(m_tag, QLatin1String("style")));
+        const QString style = escapedValue(attributeOf(tag, QLatin1String("style")));
         if (!style.contains(QLatin1String("border-collapse"))) {
-            mark(QLatin1String("style"),
-                 withDeclaration(style, QStringLiteral("border-collapse:collapse;")));
+            add(QLatin1String("style"),
+                withDeclaration(style, QStringLiteral("border-collapse:collapse;")));
         }
         // Kept on purpose because players know them so: both dynamic kinds have the type 1.
         const int type = marks.tableType;
-        mark(QLatin1String("type"), QString::number(type == 3 ? 2 : type == 0 ? 0 : 1));
-        mark(QLatin1String("orientation"), QString::number(type == 1 || type == 3 ? 1 : 0));
-        mark(QLatin1String("dataSourceKey"), marks.dataSourceKey.toHtmlEscaped());
-        mark(QLatin1String("thead"), flag(marks.freezesHeader));
-        mark(QLatin1String("header"), flag(marks.hasHeader));
-        mark(QLatin1String("fillArea"), flag(marks.fillsArea));
+        add(QLatin1String("type"), QString::number(type == 3 ? 2 : type == 0 ? 0 : 1));
+        add(QLatin1String("orientation"), QString::number(type == 1 || type == 3 ? 1 : 0));
+        add(QLatin1String("dataSourceKey"), marks.dataSourceKey.toHtmlEscaped());
+        add(QLatin1String("thead"), flag(marks.freezesHeader));
+        add(QLatin1String("header"), flag(marks.hasHeader));
+        add(QLatin1String("fillArea"), flag(marks.fillsArea));
+        // Old attributes may stand in any order.
+        std::stable_sort(m_edits->begin() + first, m_edits->end(),
+                         [](const MarkupEdit &left, const MarkupEdit &right) {
+                             return left.begin < right.begin;
+                         });
     }
 
-    HtmlToken m_tag;
-    TableBorder m_border;
+    BorderTexts m_border;
     int m_width;
-    std::vector<std::vector<Cell>> m_cells; ///< Row by row.
-    size_t m_cellCount = 0;
-    QVector<QVector<CellExtent>> m_extents;
+    int m_perJoint;
+    std::vector<MarkupEdit> *m_edits;
+    std::vector<size_t> m_widthEdits; ///< Cell by cell, where there is a width to divide.
+    QVector<QVector<CellExtent>> m_rows;
 };
 
 /** Collects the edits of all tables of a text. */
@@ -157,7 +155,7 @@ public:
         m_found = m_outliner.take(reader.isComplete());
         return m_found.hasBody && m_found.isWellFormed;
     }
-    [[nodiscard]] const FoundTable &found() const { return m_found; }
+    [[nodiscard]] FoundTable &found() { return m_found; }
 
 private:
     /** False when the attributes are quoted in a way that Qt reads differently. */
@@ -170,7 +168,7 @@ private:
                 return false;
             }
             if (isTable) {
-                m_open.emplace_back(m_token);
+                m_open.emplace_back(m_token, m_marks, m_edits);
             } else {
                 m_open.back().addCell(m_token);
             }
@@ -186,7 +184,7 @@ private:
     void close(const MarkupTag &tag)
     {
         if (tag.name == QStringView(u"table")) {
-            m_open.back().finish(m_marks, m_edits);
+            m_open.back().finish();
             m_open.pop_back();
         }
     }
@@ -210,15 +208,7 @@ OutlinedHtml unifyAndOutline(const QString &html, const TableMarks &marks)
     if (!finder.find()) {
         return {html, findTable(html)};
     }
-    OutlinedHtml result{QString(), finder.found()};
-    // Tables inside others end first.
-    const auto isBefore = [](const MarkupEdit &left, const MarkupEdit &right) {
-        return left.begin < right.begin;
-    };
-    if (!std::is_sorted(edits.begin(), edits.end(), isBefore)) {
-        std::stable_sort(edits.begin(), edits.end(), isBefore);
-    }
-    result.html = edited(html, edits);
+    OutlinedHtml result{edited(html, edits), std::move(finder.found())};
     moveTable(&result.found.table, edits);
     return result;
 }

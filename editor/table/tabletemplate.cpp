@@ -1,6 +1,5 @@
 #include "tabletemplate.h"
 
-#include <QStringList>
 #include <QUuid>
 
 #include <algorithm>
@@ -61,18 +60,17 @@ public:
         if (!hasPart) {
             return m_result;
         }
+        do {
+            m_result.separator = newDigits(m_html);
+        } while (m_result.token.contains(m_result.separator));
         const bool keepsRest = isAdaptive || m_index == 0;
+        m_result.suffix.reserve(keepsRest ? m_table.inside.end - m_table.inside.begin : 0);
         for (const OutlinedRow &row : m_table.rows) {
             if (!row.cells.empty()) {
                 addRow(row, keepsRest, isAdaptive && &row == &m_table.rows.front());
             }
         }
-        do {
-            m_result.separator = newDigits(m_html);
-        } while (m_result.token.contains(m_result.separator));
-        m_result.part = m_parts.join(m_result.separator);
-        m_result.prefix = m_prefixes.join(m_result.separator);
-        m_result.suffix = m_suffixes.join(m_result.separator);
+        m_result.suffix.squeeze();
         setContent(m_html.left(m_table.inside.begin), m_table.inside.end);
         return m_result;
     }
@@ -116,24 +114,26 @@ private:
         const CellPlace place =
             std::find_if(row.cells.begin(), row.cells.end(),
                          [this](const OutlinedCell &cell) { return cell.column >= int(m_index); });
-        QString prefix = QStringLiteral("<tr>");
-        for (auto cell = row.cells.begin(); cell != place; ++cell) {
-            prefix += cell->span.in(m_html);
+        if (!m_result.prefix.isEmpty()) {
+            m_result.prefix += m_result.separator;
+            m_result.part += m_result.separator;
+            m_result.suffix += m_result.separator;
         }
-        QString suffix;
+        m_result.prefix += QLatin1String("<tr>");
+        for (auto cell = row.cells.begin(); cell != place; ++cell) {
+            m_result.prefix += cell->span.in(m_html);
+        }
+        if (found != row.cells.end()) {
+            m_result.part += found->span.in(m_html);
+        }
         const CellPlace rest = found == row.cells.end() ? place : found + 1;
-        suffix.reserve(keepsRest && rest != row.cells.end()
-                           ? row.cells.back().span.end - rest->span.begin
-                           : 0);
         for (auto cell = rest; keepsRest && cell != row.cells.end(); ++cell) {
             const QStringView markup = cell->span.in(m_html);
             if (!holdsRepetitions || !markup.contains(QLatin1String("${i}"))) {
-                suffix += markup;
+                m_result.suffix += markup;
             }
         }
-        m_prefixes.append(prefix);
-        m_parts.append(found == row.cells.end() ? QString() : text(found->span));
-        m_suffixes.append(suffix + QLatin1String("</tr>"));
+        m_result.suffix += QLatin1String("</tr>");
     }
 
     void setContent(const QString &head, int tail)
@@ -147,9 +147,6 @@ private:
     const TableOutline &m_table;
     size_t m_index; ///< Of the template's row or column.
     TableTemplate m_result;
-    QStringList m_parts;
-    QStringList m_prefixes;
-    QStringList m_suffixes;
 };
 
 } // namespace
