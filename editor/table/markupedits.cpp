@@ -99,15 +99,15 @@ QString edited(const QString &html, const std::vector<MarkupEdit> &edits)
     for (const MarkupEdit &edit : edits) {
         size += edit.text.size() - (edit.end - edit.begin);
     }
-    QString result;
-    result.reserve(size);
-    int done = 0;
+    QString result(size, Qt::Uninitialized);
+    QChar *to = result.data();
+    const QChar *from = html.constData();
     for (const MarkupEdit &edit : edits) {
-        result += html.midRef(done, edit.begin - done);
-        result += edit.text;
-        done = edit.end;
+        to = std::copy(from, html.constData() + edit.begin, to);
+        to = std::copy(edit.text.begin(), edit.text.end(), to);
+        from = html.constData() + edit.end;
     }
-    result += html.midRef(done); // a sum would copy all of it once more
+    std::copy(from, html.constEnd(), to);
     return result;
 }
 

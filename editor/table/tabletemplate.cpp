@@ -3,10 +3,32 @@
 #include <QUuid>
 
 #include <algorithm>
+#include <iterator>
 
 namespace lctrlsex {
 
 namespace {
+
+bool isDigit(QChar c)
+{
+    return c >= QLatin1Char('0') && c <= QLatin1Char('9');
+}
+
+/** Whether @p length digits stand behind each other somewhere; looks at few of the characters. */
+bool hasNumber(QStringView text, qsizetype length)
+{
+    for (qsizetype at = length - 1; at < text.size(); at += length) {
+        if (isDigit(text[at])) {
+            const auto end = std::find_if_not(text.begin() + at, text.end(), isDigit);
+            const auto rest = std::find_if_not(std::make_reverse_iterator(text.begin() + at),
+                                               text.rend(), isDigit);
+            if (end - rest.base() >= length) {
+                return true;
+            }
+        }
+    }
+    return false;
+}
 
 /** Digits that @p html does not hold. */
 QString newDigits(const QString &html)
@@ -14,7 +36,7 @@ QString newDigits(const QString &html)
     QString digits;
     do {
         digits = QString::number(qHash(QUuid::createUuid().toString(), 0));
-    } while (html.contains(digits));
+    } while (hasNumber(html, digits.size()) && html.contains(digits));
     return digits;
 }
 
