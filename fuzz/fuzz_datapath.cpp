@@ -14,7 +14,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     static const sources::DataSnapshot snapshot = [] {
         sources::DataSnapshot made;
         made["s"].value = sources::parseJson(R"({"t":"a,b\nc","n":{"m":["1",["2","3"],{"k":"4"}]},
-            "r":[{"a":"1","b":{"c":"2"}},{"a":null}],"v":["1","2","3"],"a.b":"dot","m":[["1"],[]]})")
+            "r":[{"a":"1","b":{"c":"2"}},{"a":null}],"v":["1","2","3"],"c":[{"a":"1","b":""},{"a":"2"}],"a.b":"dot","m":[["1"],[]]})")
                               .value;
         return made;
     }();
@@ -31,6 +31,11 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
             const int count = lines.valueCount(line);
             longest = qMax(longest, count);
             if (!lines.valueAt(line, count).isNull() || !lines.value(line, -1).isNull()) {
+                std::abort();
+            }
+            const auto cell = lines.utf8(line, 0);
+            const QString text = QString::fromUtf8(cell.data(), int(cell.size()));
+            if (cell.data() != nullptr && text != lines.value(line, 0)) {
                 std::abort();
             }
         }

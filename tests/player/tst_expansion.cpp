@@ -2,6 +2,7 @@
 // data and the rows that come out.
 
 #include "boundpages.h"
+#include "celltable.h"
 #include "datapath.h"
 #include "keysuggestion.h"
 #include "reply.h"
@@ -296,6 +297,24 @@ void TestExpansion::valuesAreNeverMarkup()
     }
     QVERIFY2(!reader.hasError(), qPrintable(reader.errorString()));
     QCOMPARE(cells, 2 * values.size());
+    // A table, which is filled straight from its UTF-8, gives the same as the texts that it holds.
+    sources::CellWriter writer;
+    for (int i = 0; i < values.size(); ++i) {
+        const QByteArray utf8 = values.at(i).toUtf8();
+        writer.beginRow();
+        writer.addCell(utf8.constData(), size_t(utf8.size()));
+        lines[i] = sources::DataValue::fromRecord(
+            {{"a",
+              sources::DataValue::fromText(QString::fromUtf8(utf8.constData(), utf8.size()))}});
+    }
+    const auto rowsOf = [&](const sources::DataValue &list) {
+        data["s"].value = sources::DataValue::fromRecord({{"m", list}});
+        const BoundPages filled(item, data, style);
+        return filled.rows().expandedRows(0, values.size());
+    };
+    const auto table = std::make_shared<sources::CellTable>(QStringList{"a"}, writer.take());
+    QCOMPARE(rowsOf(sources::DataValue::fromTable(table)),
+             rowsOf(sources::DataValue::fromList(lines)));
 }
 
 QTEST_MAIN(TestExpansion)
