@@ -1,6 +1,7 @@
 #include "autocompletelineedit.h"
 
 #include <QCompleter>
+#include <QListView>
 #include <QStringListModel>
 
 AutoCompleteLineEdit::AutoCompleteLineEdit(QWidget *parent)
@@ -15,9 +16,19 @@ void AutoCompleteLineEdit::setWords(const QStringList &words)
         return;
     }
     auto *offer = new QCompleter(this);
-    offer->setModel(new QStringListModel(words, offer));
     offer->setFilterMode(Qt::MatchStartsWith);
     offer->setCaseSensitivity(Qt::CaseInsensitive);
     offer->setCompletionMode(QCompleter::PopupCompletion);
+    offer->setModel(new QStringListModel(words, offer));
     setCompleter(offer);
+}
+
+void AutoCompleteLineEdit::focusInEvent(QFocusEvent *event)
+{
+    QLineEdit::focusInEvent(event);
+    // Thousands of words may be offered at once, and not every field is used.
+    auto *list = completer() != nullptr ? qobject_cast<QListView *>(completer()->popup()) : nullptr;
+    if (list != nullptr) {
+        list->setUniformItemSizes(true);
+    }
 }

@@ -15,6 +15,9 @@ public:
     /** Replaces them; the text stays. Without words there is no completer. */
     void setWords(const QStringList &words);
 
+protected:
+    void focusInEvent(QFocusEvent *event) override;
+
 private:
     QStringList m_words;
 };

@@ -126,7 +126,7 @@ void LModbusParameterOperation::addStep(CalculationRow *calculation)
         return;
     }
     StepRow *step = m_items->addStep(calculation);
-    calculation->setExpanded(true);
+    calculation->setExpanded(true); // it had no step
     m_cells->stepsChanged(calculation);
     reveal(step);
     m_cells->firstField(step)->setFocus();

@@ -45,6 +45,7 @@ void LModbusParameterOperation::build()
     connect(m_cells, &OperationCells::laidOut, m_rows, &VisibleRows::update);
     connect(m_cells, &OperationCells::placesClamped, this,
             [this] { m_tips->showTip(decimalRangeNotice()); });
+    new RowFocus(m_tree, OperationColumn::Result);
     auto *remove = new QShortcut(QKeySequence::Delete, m_tree);
     remove->setContext(Qt::WidgetShortcut);
     connect(remove, &QShortcut::activated, this, &LModbusParameterOperation::removeSelected);
@@ -60,6 +61,7 @@ void LModbusParameterOperation::setColumns()
     header->setSectionResizeMode(OperationColumn::Arguments, QHeaderView::Stretch);
     // By rows it would take those at the top to be as low as those at the bottom.
     m_tree->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
+    m_tree->setItemsExpandable(false); // nothing would show that there are steps
     m_tree->setEditTriggers(QAbstractItemView::DoubleClicked | QAbstractItemView::EditKeyPressed);
     m_tree->setColumnWidth(OperationColumn::Name, 250);
     m_tree->setColumnWidth(OperationColumn::Result, 250);

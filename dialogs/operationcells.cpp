@@ -212,18 +212,18 @@ void OperationCells::layOut()
 
 void OperationCells::offerWords(CalculationRow *row)
 {
-    const QStringList words = m_variables.words(row->calculation().expressions);
+    QStringList words; // there may be many: only where somebody gets them
     for (int i = 0; i < row->childCount(); ++i) {
-        offerWords(stepRow(row->child(i)), words);
+        if (m_tree->itemWidget(row->child(i), OperationColumn::Arguments) != nullptr) {
+            words = words.isEmpty() ? m_variables.words(row->calculation().expressions) : words;
+            offerWords(stepRow(row->child(i)), words);
+        }
     }
 }
 
 void OperationCells::offerWords(StepRow *row, const QStringList &words)
 {
     const QWidget *editor = m_tree->itemWidget(row, OperationColumn::Arguments);
-    if (editor == nullptr) {
-        return;
-    }
     const auto fields = editor->findChildren<AutoCompleteLineEdit *>();
     for (AutoCompleteLineEdit *field : fields) {
         field->setWords(words);

@@ -40,8 +40,11 @@ void OperationItems::append(const QList<CalculationRow *> &rows)
         items.append(row);
     }
     m_tree->addTopLevelItems(items);
-    for (CalculationRow *row : rows) {
-        row->setExpanded(true);
+    // One by one only where it is one: each is laid out by itself.
+    if (rows.size() == 1) {
+        rows.first()->setExpanded(true);
+    } else {
+        m_tree->expandAll();
     }
 }
 

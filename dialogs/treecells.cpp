@@ -2,6 +2,7 @@
 
 #include "configurationform.h"
 
+#include <QEvent>
 #include <QTreeWidget>
 #include <QVariant>
 
@@ -101,6 +102,24 @@ bool focusNextCell(QTreeWidget *tree, const VisibleRows::Make &make, bool isForw
         }
     }
     return false;
+}
+
+RowFocus::RowFocus(QTreeWidget *tree, int column)
+    : QObject(tree)
+    , m_tree(tree)
+    , m_column(column)
+{
+    tree->installEventFilter(this);
+}
+
+bool RowFocus::eventFilter(QObject *watched, QEvent *event)
+{
+    const bool isMove = event->type() == QEvent::FocusIn || event->type() == QEvent::KeyPress;
+    QTreeWidgetItem *row = isMove ? entryRow(m_tree, true) : nullptr;
+    if (row != nullptr && m_tree->currentColumn() != m_column) {
+        m_tree->setCurrentItem(row, m_column, QItemSelectionModel::NoUpdate);
+    }
+    return QObject::eventFilter(watched, event);
 }
 
 } // namespace lctrlsex

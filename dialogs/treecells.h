@@ -23,4 +23,22 @@ void setCell(QTreeWidgetItem *row, int column, QWidget *cell);
  */
 bool focusNextCell(QTreeWidget *tree, const VisibleRows::Make &make, bool isForward);
 
+/**
+ * Keeps the focus in a tree while its keys move from row to row: it would hand it on to the widget
+ * of the cell that it comes to.
+ */
+class RowFocus : public QObject
+{
+public:
+    /** Belongs to @p tree. No widget in @p column takes the focus. */
+    RowFocus(QTreeWidget *tree, int column);
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    QTreeWidget *m_tree;
+    const int m_column;
+};
+
 } // namespace lctrlsex

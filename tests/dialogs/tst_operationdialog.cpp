@@ -2,38 +2,29 @@
 #include "lmodbusparameteroperation.h"
 #include "modalanswerer.h"
 
-#include <QComboBox>
-#include <QCompleter>
-#include <QDialogButtonBox>
-#include <QHeaderView>
-#include <QLabel>
-#include <QMenu>
-#include <QMessageBox>
-#include <QPushButton>
-#include <QRandomGenerator>
-#include <QScrollBar>
-#include <QToolButton>
-#include <QTreeWidget>
 #include <QtTest>
+#include <QtWidgets>
 
 namespace {
+
+using Calculations = QVector<CalculationCondition>;
 
 CalculationStep step(const QString &name, const QString &func, const QStringList &args)
 {
     return {name, {func, args, {}}, {}};
 }
 
-CalculationCondition calculation(const QString &name, const QVector<CalculationStep> &steps)
+CalculationCondition calculation(const QString &name, const QVector<CalculationStep> &steps = {})
 {
     return {"id of " + name, name, {}, steps, {}};
 }
 
-CalculationDynamicData dataOf(const QVector<CalculationCondition> &conditions)
+CalculationDynamicData dataOf(const Calculations &conditions)
 {
     return {{{"temp", "21.5"}, {"list", "a;b;;c"}}, conditions, {{"any", "value"}}};
 }
 
-QVector<CalculationCondition> withoutIds(QVector<CalculationCondition> conditions)
+Calculations withoutIds(Calculations conditions)
 {
     for (CalculationCondition &each : conditions) {
         each.id.clear();
@@ -41,30 +32,27 @@ QVector<CalculationCondition> withoutIds(QVector<CalculationCondition> condition
     return conditions;
 }
 
-void answer(QDialog *box, QMessageBox::StandardButton button)
+auto answering(QMessageBox::StandardButton button)
 {
-    QTest::mouseClick(static_cast<QMessageBox *>(box)->button(button), Qt::LeftButton);
+    return [button](QDialog *box) {
+        static_cast<QMessageBox *>(box)->button(button)->click();
+    };
 }
 
 /** The dialog as a user finds it: widgets are what is seen at their places. */
-
 class Shown : public LModbusParameterOperation
 {
 public:
-    explicit Shown(const QVector<CalculationCondition> &conditions = {})
+    explicit Shown(const Calculations &conditions = {})
         : tree(findChild<QTreeWidget *>())
-        , tip(findChild<QLabel *>("SettingStatusTips"))
     {
         setDynamicData(dataOf(conditions));
         show();
-        isActive = QTest::qWaitForWindowActive(this);
+        QTest::qWaitForWindowActive(this) || (qFatal("The dialog is not active"), false);
     }
 
-    QTreeWidgetItem *row(int calculation, int stepIndex = -1) const
-    {
-        QTreeWidgetItem *top = tree->topLevelItem(calculation);
-        return stepIndex < 0 ? top : top->child(stepIndex);
-    }
+    QTreeWidgetItem *row(int calculation) const { return tree->topLevelItem(calculation); }
+    QTreeWidgetItem *row(int top, int step) const { return row(top)->child(step); }
     template <typename Widget = QLineEdit>
     Widget *at(QTreeWidgetItem *item, int column, double part = 0.5) const
     {
@@ -74,9 +62,8 @@ public:
             tree->horizontalScrollBar()->setValue(header->sectionPosition(column));
             QCoreApplication::processEvents();
         }
-        const QPoint place(header->sectionViewportPosition(column) +
-                               int(part * header->sectionSize(column)),
-                           tree->visualItemRect(item).top() + 12);
+        const int x = header->sectionViewportPosition(column) + part * header->sectionSize(column);
+        const QPoint place(x, tree->visualItemRect(item).top() + 12);
         return qobject_cast<Widget *>(tree->viewport()->childAt(place));
     }
     QLabel *resultOf(QTreeWidgetItem *item) const { return at<QLabel>(item, 1); }
@@ -87,7 +74,7 @@ public:
     void choose(QTreeWidgetItem *item, const QString &func) const
     {
         auto *box = at<QComboBox>(item, 3);
-        box->setCurrentIndex(box->findText(func, Qt::MatchExactly | Qt::MatchCaseSensitive));
+        box->setCurrentIndex(box->findText(func));
     }
     void add(QTreeWidgetItem *item) const { click(at<QToolButton>(item, 5, 0.25)); }
     void remove(QTreeWidgetItem *item) const { click(at<QToolButton>(item, 5, 0.75)); }
@@ -101,23 +88,25 @@ public:
     static void type(QLineEdit *edit, const QString &text)
     {
         edit->setFocus();
-        edit->selectAll();
-        text.isEmpty() ? edit->clear() : edit->insert(text);
+        edit->setText(text);
     }
     static void click(QWidget *button) { QTest::mouseClick(button, Qt::LeftButton); }
-    QStringList names() const
+    QStringList names()
     {
         QStringList found;
-        for (int i = 0; i < tree->topLevelItemCount(); ++i) {
-            found.append(at(row(i), 0)->text());
+        for (const CalculationCondition &each : dynamicData().conditions) {
+            found.append(each.key);
         }
         return found;
     }
 
     QTreeWidget *tree;
-    QLabel *tip;
-    bool isActive = false;
 };
+
+void press(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
+{
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key(key), modifiers);
+}
 
 } // namespace
 
@@ -130,9 +119,9 @@ private slots:
     void showsResults();
     void keepsWhatIsNotEdited();
     void changesOnlyWhatIsEdited();
-    void checksNames_data();
     void checksNames();
     void worksWithTheClipboard();
+    void mayGoAtAnyTime();
     void goesByKeyboardAlone();
     void followsTheSources();
     void survives();
@@ -141,56 +130,43 @@ private slots:
 
 void TestOperationDialog::showsResults_data()
 {
-    QTest::addColumn<QString>("func");
-    QTest::addColumn<QStringList>("args");
+    QTest::addColumn<QStringList>("call");
     QTest::addColumn<QString>("result");
-    QTest::addColumn<bool>("isReason");
-    const auto add = [](const QString &func, const QStringList &args, const QString &result,
-                        bool isReason = false) {
-        QTest::addRow("%s %s", qPrintable(func), qPrintable(args.join(' ')))
-            << func << args << result << isReason;
-    };
-    add("+", {"1", "x"}, "", true);
-    add("+", {"${temp}", "2"}, "23.5");
-    add("/", {"10", "0"}, "10");
-    add("%", {"7", "0"}, "7");
-    add("left", {"abcdef", "-3"}, "");
-    add("right", {"abcdef", "2"}, "ef");
-    add("mid", {"abcdef", "2", "3"}, "cde");
-    add("split", {"${list}", ";"}, "a\nb\nc");
-    add("index", {"${var1}", "3"}, "", true);
-    add("index", {"${var1}", "1"}, "b");
-    add("strcat", {"<b>", "${var1}"}, "<b>a\nb\nc");
-    add("decimal", {"3.14159", "9"}, "3.141590");
-    add("decimal", {"3.14159", "6"}, "3.141590");
+    QTest::newRow("no number") << QStringList({"+", "1", "x"}) << "?";
+    QTest::newRow("variable") << QStringList({"+", "${temp}", "2"}) << "23.5";
+    QTest::newRow("left") << QStringList({"left", "abcdef", "-3"}) << "";
+    QTest::newRow("mid") << QStringList({"mid", "abcdef", "2", "3"}) << "cde";
+    QTest::newRow("split") << QStringList({"split", "${list}", ";"}) << "a\nb\nc";
+    QTest::newRow("outside") << QStringList({"index", "${var1}", "3"}) << "?";
+    QTest::newRow("plain") << QStringList({"strcat", "<b>", "${var1}"}) << "<b>a\nb\nc";
+    QTest::newRow("clamped") << QStringList({"decimal", "3.14159", "9"}) << "3.141590";
 }
 
 void TestOperationDialog::showsResults()
 {
-    QFETCH(QString, func);
-    QFETCH(QStringList, args);
+    QFETCH(QStringList, call);
+    QFETCH(QString, result);
     Shown dialog({calculation("c", {step("var1", "split", {"a;b;;c", ";"})})});
+    const auto *tip = dialog.findChild<QLabel *>("SettingStatusTips");
     dialog.add(dialog.row(0));
     QTreeWidgetItem *row = dialog.row(0, 1);
-    QCOMPARE(dialog.at<QLabel>(row, 2)->text(), QString("var2"));
     const int lowRow = dialog.tree->visualItemRect(row).height();
-    dialog.choose(row, func);
-    for (int i = 0; i < args.size(); ++i) {
-        Shown::type(dialog.field(row, i, args.size()), args.at(i));
+    dialog.choose(row, call.takeFirst());
+    for (int i = 0; i < call.size(); ++i) {
+        Shown::type(dialog.field(row, i, call.size()), call.at(i));
     }
-    QVERIFY(dialog.tip->isHidden());
-    QTest::keyClick(dialog.field(row, 1, args.size()), Qt::Key_Return);
-    QLabel *label = dialog.resultOf(row);
-    QTEST(label->text(), "result");
-    QTEST(label->property("isReason").toBool(), "isReason");
-    QCOMPARE(label->toolTip().isEmpty(),
-             label->text().isEmpty() && !label->property("isReason").toBool());
-    QCOMPARE(dialog.tip->isVisible(), args.value(1) == "9");
+    QVERIFY(tip->isHidden());
+    press(Qt::Key_Return);
+    QCOMPARE(tip->isVisible(), call.at(1) == "9");
+    QVERIFY(dialog.isVisible() && dialog.isActiveWindow());
+    const QLabel *label = dialog.resultOf(row);
+    const bool isReason = result == "?";
+    QCOMPARE(label->text(), isReason ? QString() : result);
+    QCOMPARE(label->property("isReason").toBool(), isReason);
+    QCOMPARE(label->toolTip().isEmpty(), result.isEmpty());
     QCOMPARE(dialog.resultOf(dialog.row(0))->text(), label->text());
-    QCOMPARE(dialog.tree->visualItemRect(row).height() > lowRow, label->text().contains('\n'));
-    QVERIFY(!dialog.tip->isVisible() ||
-            (dialog.tip->size() == QSize(300, 80) && dialog.isActiveWindow()));
-    QTRY_VERIFY_WITH_TIMEOUT(dialog.tip->isHidden(), 4000);
+    QCOMPARE(dialog.tree->visualItemRect(row).height() > lowRow, result.contains('\n'));
+    QTRY_VERIFY_WITH_TIMEOUT(tip->isHidden(), 4000);
 }
 
 void TestOperationDialog::keepsWhatIsNotEdited()
@@ -202,18 +178,16 @@ void TestOperationDialog::keepsWhatIsNotEdited()
     odd.defaultValue = QString(40000, 'd');
     odd.expressions[1].others.insert("more", 2);
     odd.expressions[1].expression.others.insert("more", 3);
-    const auto given = dataOf({odd, calculation("a:b", {}), calculation("a:b", {})});
+    const auto given = dataOf({odd, calculation("a:b"), calculation("a:b")});
     Shown dialog(given.conditions);
+    dialog.tree->setFocus();
     for (int i = 0; i < 40; ++i) { // through all the cells
-        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        press(Qt::Key_Tab);
     }
-    dialog.onNameEdited(dialog.row(0));
     dialog.accept();
-    QCOMPARE(dialog.result(), int(QDialog::Accepted));
     CalculationDynamicData kept = dialog.dynamicData();
-    QCOMPARE(dialog.formerIds().size(), 3);
     for (CalculationCondition &each : kept.conditions) {
-        QVERIFY(!each.id.isEmpty());
+        QVERIFY(!given.conditions.contains(each));
         each.id = dialog.formerIds().value(each.id);
     }
     QVERIFY(kept == given);
@@ -221,114 +195,100 @@ void TestOperationDialog::keepsWhatIsNotEdited()
 
 void TestOperationDialog::changesOnlyWhatIsEdited()
 {
-    Shown dialog({calculation("c", {step("a", "mid", {"abc", "1", "2", "x"}), step("b", "+", {"1"}),
-                                    step("d", "+", {"1", "2", "3"})})});
-    auto expected = dialog.dynamicData().conditions;
-    Shown::type(dialog.at(dialog.row(0), 4), "none");
+    const Calculations given = {
+        calculation("c", {step("a", "mid", {"abc", "1", "2", "x"}), step("b", "+", {"1"}),
+                          step("d", "+", {"1", "2", "3"})})};
+    Shown dialog(given);
+    auto expected = given;
+    Shown::type(dialog.at(dialog.row(0), 4), expected[0].defaultValue = "none");
     dialog.choose(dialog.row(0, 0), "left");
     Shown::type(dialog.field(dialog.row(0, 1), 0), "7");
     dialog.choose(dialog.row(0, 2), "-");
     QCOMPARE(dialog.resultOf(dialog.row(0, 2))->text(), QString("-4"));
-    expected[0].defaultValue = "none";
     expected[0].expressions = {step("a", "left", {"abc", "1"}), step("b", "+", {"7", ""}),
                                step("d", "-", {"1", "2", "3"})};
     QVERIFY(withoutIds(dialog.dynamicData().conditions) == withoutIds(expected));
 }
 
-void TestOperationDialog::checksNames_data()
-{
-    QTest::addColumn<QString>("typed");
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QString>("warning");
-    QTest::newRow("trimmed") << " new name "
-                             << "new name"
-                             << "";
-    QTest::newRow("blank") << "  "
-                           << "a"
-                           << "";
-    QTest::newRow("illegal") << "x:y"
-                             << "a"
-                             << "Name contains illegal characters.";
-    QTest::newRow("taken") << "b "
-                           << "a"
-                           << "Name already exists!";
-    QTest::newRow("itself") << " a"
-                            << "a"
-                            << "";
-    QTest::newRow("case") << "B"
-                          << "B"
-                          << "";
-    QTest::newRow("long") << QString(10000, 'x') << QString(10000, 'x') << "";
-}
-
 void TestOperationDialog::checksNames()
 {
-    QFETCH(QString, typed);
-    Shown dialog({calculation("a", {}), calculation("b", {})});
+    Shown dialog({calculation("a"), calculation("b")});
     QString warning;
-    ModalAnswerer answerer([&](QDialog *box) {
-        warning = static_cast<QMessageBox *>(box)->text();
-        box->reject();
-    });
-    QTEST(dialog.rename(0, typed), "name");
-    QTEST(dialog.dynamicData().conditions.first().key, "name");
-    QTest::qWait(50);
-    QTEST(warning, "warning");
-    // The name that is being written when the dialog is accepted, by the key of its button
-    Shown::type(dialog.at(dialog.row(0), 0), typed);
-    dialog.accept();
-    QCOMPARE(dialog.isVisible(), !warning.isEmpty());
+    const auto name = [&](const QString &typed, bool isAccepted = false) {
+        ModalAnswerer answerer([&](QDialog *box) {
+            warning = static_cast<QMessageBox *>(box)->text();
+            box->reject();
+        });
+        isAccepted ? Shown::type(dialog.at(dialog.row(0), 0), typed)
+                   : void(dialog.rename(0, typed));
+        isAccepted ? dialog.accept() : void(); // without leaving the edit
+        QTest::qWait(50);
+        return dialog.names().first() + '|' + std::exchange(warning, QString());
+    };
+    QCOMPARE(name(" new "), QString("new|"));
+    QCOMPARE(name("  "), QString("new|"));
+    QCOMPARE(name("b "), QString("new|Name already exists!"));
+    QCOMPARE(name("x:y"), QString("new|Name contains illegal characters."));
+    QCOMPARE(name("x:y", true), QString("new|Name contains illegal characters."));
+    QVERIFY(dialog.isVisible());
+    QCOMPARE(name("B", true), QString("B|"));
+    QVERIFY(!dialog.isVisible());
 }
 
 void TestOperationDialog::worksWithTheClipboard()
 {
-    auto *dialog =
-        new Shown({calculation("a", {step("s", "+", {"1", "2"})}), calculation("b", {})});
-    QVERIFY(!dialog->hasClipboardData());
-    dialog->row(0, 0)->setSelected(true);
-    dialog->OnCopySelectAction();
-    QVERIFY(dialog->clipboardData().conditions ==
-                QVector{dialog->dynamicData().conditions.first()} ||
-            dialog->clipboardData().conditions.first().key == "a");
-    const auto confirmed = [&](auto slot, QMessageBox::StandardButton button) {
-        ModalAnswerer answerer([button](QDialog *box) { answer(box, button); });
-        (dialog->*slot)();
-        return answerer.wasAsked();
+    Shown dialog({calculation("a", {step("s", "+", {"1", "2"})}), calculation("b")});
+    QVERIFY(!dialog.hasClipboardData());
+    const auto confirm = [&](void (Shown::*slot)(), QMessageBox::StandardButton button) {
+        ModalAnswerer answerer(answering(button));
+        (dialog.*slot)();
+        QVERIFY(answerer.wasAsked());
     };
-    QVERIFY(confirmed(&Shown::OnPasteAction, QMessageBox::No));
-    QCOMPARE(dialog->names(), QStringList({"a", "b"}));
-    QVERIFY(confirmed(&Shown::OnPasteAction, QMessageBox::Yes));
-    QVERIFY(confirmed(&Shown::OnPasteAction, QMessageBox::Yes));
-    QCOMPARE(dialog->names(), QStringList({"a", "b", "a_1", "a_2"}));
-    QCOMPARE(dialog->resultOf(dialog->row(3, 0))->text(), QString("3"));
-    QVERIFY(confirmed(&Shown::OnDeleteAllAction, QMessageBox::Yes));
-    QVERIFY(dialog->findChild<QLabel *>("EmptyHint")->isVisible());
-    QVERIFY(confirmed(&Shown::OnCoverAction, QMessageBox::Yes));
-    QCOMPARE(dialog->names(), QStringList({"a"}));
-    QVERIFY(dialog->findChild<QLabel *>("EmptyHint")->isHidden());
-    QCOMPARE(dialog->dynamicData().conditions.size(), 1);
-    QVERIFY(dialog->formerIds().isEmpty());
-    // Gone behind its question, then behind its menu, then behind its warning
+    dialog.row(0, 0)->setSelected(true);
+    dialog.OnCopySelectAction();
+    confirm(&Shown::OnPasteAction, QMessageBox::No);
+    QCOMPARE(dialog.names(), QStringList({"a", "b"}));
+    confirm(&Shown::OnPasteAction, QMessageBox::Yes);
+    confirm(&Shown::OnPasteAction, QMessageBox::Yes);
+    QCOMPARE(dialog.names(), QStringList({"a", "b", "a_1", "a_2"}));
+    QCOMPARE(dialog.formerIds().size(), 2);
+    QCOMPARE(dialog.resultOf(dialog.row(3, 0))->text(), QString("3"));
+    confirm(&Shown::OnDeleteAllAction, QMessageBox::Yes);
+    QVERIFY(dialog.findChild<QLabel *>("EmptyHint")->isVisible());
+    confirm(&Shown::OnCoverAction, QMessageBox::Yes);
+    QCOMPARE(dialog.names(), QStringList("a"));
+    QVERIFY(dialog.formerIds().isEmpty() && dialog.hasClipboardData());
+}
+
+void TestOperationDialog::mayGoAtAnyTime()
+{
+    QPointer<Shown> dialog;
+    const auto open = [&] {
+        dialog = new Shown({calculation("a"), calculation("b")});
+        dialog->setClipboardData(dataOf({calculation("c")}));
+        dialog->tree->setFocus();
+    };
+    open(); // behind a question
     ModalAnswerer question([&](QDialog *) { delete dialog; });
-    dialog->OnCoverAction();
-    QVERIFY(question.wasAsked());
-    dialog = new Shown({calculation("a", {}), calculation("b", {})});
-    QTimer::singleShot(20, dialog, [&] { delete dialog; });
-    dialog->ShowContextMenu();
-    const QPointer<Shown> last = dialog = new Shown({calculation("a", {}), calculation("b", {})});
+    press(Qt::Key_V, Qt::ControlModifier);
+    QVERIFY(question.wasAsked() && !dialog);
+    open(); // behind the menu
+    QTimer::singleShot(50, dialog, [&] { delete dialog; });
+    QContextMenuEvent menu(QContextMenuEvent::Mouse, QPoint(5, 5));
+    QApplication::sendEvent(dialog->tree->viewport(), &menu);
+    QVERIFY(!dialog);
+    open(); // behind a warning
     ModalAnswerer warning([&](QDialog *) { delete dialog; });
     dialog->rename(0, "b");
-    QTRY_VERIFY(last.isNull());
+    QTRY_VERIFY(!dialog);
+    open(); // while a name is being written
+    Shown::type(dialog->at(dialog->row(0), 0), "b");
+    delete dialog;
 }
 
 void TestOperationDialog::goesByKeyboardAlone()
 {
-    Shown dialog(
-        {calculation("a", {step("s", "mid", {}), step("t", "+", {})}), calculation("b", {})});
-    QVERIFY(dialog.isActive);
-    const auto press = [](int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
-        QTest::keyClick(QApplication::focusWidget(), Qt::Key(key), modifiers);
-    };
+    Shown dialog({calculation("a", {step("s", "mid", {}), step("t", "+", {})}), calculation("b")});
     dialog.tree->setCurrentItem(dialog.row(0));
     dialog.tree->setFocus();
     QVector<QWidget *> visited;
@@ -340,11 +300,9 @@ void TestOperationDialog::goesByKeyboardAlone()
     QCOMPARE(visited.at(1), dialog.at(dialog.row(0), 4));
     QCOMPARE(visited.at(4), dialog.at<QComboBox>(dialog.row(0, 0), 3));
     QCOMPARE(visited.at(7), dialog.field(dialog.row(0, 0), 2, 3));
-    QCOMPARE(visited.at(9), dialog.at<QComboBox>(dialog.row(0, 1), 3));
     QCOMPARE(visited.at(13), dialog.at(dialog.row(1), 0));
-    QVERIFY(dialog.tree->currentItem() == dialog.row(1));
     press(Qt::Key_Tab);
-    QCOMPARE(QApplication::focusWidget()->parentWidget(), dialog.findChild<QDialogButtonBox *>());
+    QVERIFY(!dialog.tree->isAncestorOf(QApplication::focusWidget()));
     for (int i = 16; i >= 0; --i) {
         press(Qt::Key_Backtab, Qt::ShiftModifier);
         QCOMPARE(QApplication::focusWidget(), visited.at(i));
@@ -352,20 +310,22 @@ void TestOperationDialog::goesByKeyboardAlone()
         QVERIFY(dialog.isVisible());
     }
     press(Qt::Key_Backtab, Qt::ShiftModifier);
-    QCOMPARE(QApplication::focusWidget(), dialog.tree);
+    for (const int key : {Qt::Key_End, Qt::Key_Home, Qt::Key_Down}) { // from row to row
+        press(key);
+        QCOMPARE(QApplication::focusWidget(), dialog.tree);
+    }
     press(Qt::Key_Insert);
     QCOMPARE(QApplication::focusWidget(), dialog.field(dialog.row(0, 2), 0));
     press(Qt::Key_F2);
     QCOMPARE(QApplication::focusWidget(), dialog.at(dialog.row(0), 0));
     press(Qt::Key_Delete); // is for the text
-    QCOMPARE(dialog.tree->topLevelItemCount(), 2);
+    QCOMPARE(dialog.names(), QStringList({"a", "b"}));
     dialog.tree->setFocus();
     press(Qt::Key_Delete);
     QCOMPARE(dialog.names(), QStringList("b"));
-    QTest::mouseClick(dialog.findChild<QPushButton *>(), Qt::LeftButton);
-    auto *name = qobject_cast<QLineEdit *>(QApplication::focusWidget());
+    Shown::click(dialog.findChild<QPushButton *>());
+    const auto *name = qobject_cast<QLineEdit *>(QApplication::focusWidget());
     QCOMPARE(name->selectedText(), QString("Configuration item"));
-    QCOMPARE(dialog.dynamicData().conditions.at(1).expressions.first().expression.args.size(), 2);
 }
 
 void TestOperationDialog::followsTheSources()
@@ -378,44 +338,32 @@ void TestOperationDialog::followsTheSources()
     Shown::type(field, "2");
     dialog.setVariables({{"TEMP", "5"}, {"temp", "30"}});
     QCOMPARE(dialog.resultOf(dialog.row(0, 0))->text(), QString("32"));
-    QCOMPARE(field->words(), QStringList({"${TEMP}", "${temp}", "${var1}", "${var2}"}));
     field->clear();
     QTest::keyClicks(field, "${T");
     QCOMPARE(field->completer()->completionCount(), 2);
     QTest::keyClick(field->completer()->popup(), Qt::Key_Down);
     QTest::keyClick(field->completer()->popup(), Qt::Key_Return);
-    QCOMPARE(dialog.dynamicData().conditions.first().expressions.first().expression.args.at(1),
-             QString("${TEMP}"));
-    QVERIFY(dialog.isVisible());
+    QCOMPARE(dialog.resultOf(dialog.row(0, 0))->text(), QString("35"));
 }
 
 void TestOperationDialog::survives()
 {
-    QStringList ones;
-    for (int i = 0; i < 1000; ++i) {
-        ones.append("1");
-    }
-    const auto one =
-        calculation(QString(10000, 'x'), {step("var1", "+", ones), step("var2", "+", {})});
+    const QStringList ones = QString("1 ").repeated(1000).split(' ', Qt::SkipEmptyParts);
+    const auto one = calculation(QString(10000, 'x'), {step("var1", "+", ones), step("", "+", {})});
     Shown dialog;
-    dialog.setClipboardData(dataOf(QVector<CalculationCondition>(10000, one)));
-    ModalAnswerer answerer([](QDialog *box) { answer(box, QMessageBox::Yes); });
-    QElapsedTimer time;
-    time.start();
+    dialog.setClipboardData(dataOf(Calculations(10000, one)));
+    ModalAnswerer answerer(answering(QMessageBox::Yes));
     dialog.OnPasteAction();
-    QVERIFY2(time.elapsed() < 5000, qPrintable(QString::number(time.elapsed())));
     QCOMPARE(dialog.resultOf(dialog.row(9999, 0))->text(), QString("1000"));
     QCOMPARE(dialog.at(dialog.row(9999), 0)->text().right(6), QString("x_9999"));
-    QVERIFY(dialog.resultOf(dialog.row(0, 0)) && dialog.resultOf(dialog.row(9999, 0)));
     Shown::type(dialog.field(dialog.row(9999, 1), 0), "5"); // and goes while it has the focus
     delete dialog.row(9999, 1);
     auto *button = dialog.at<QToolButton>(dialog.row(9999, 0), 5, 0.75);
     button->click();
-    dialog.add(dialog.row(9999)); // may lie where the removed one lay
+    dialog.tree->setCurrentItem(dialog.row(9999));
+    QTest::keyClick(&dialog, Qt::Key_Insert); // may lie where the removed one lay
     button->click();
     QCOMPARE(dialog.row(9999)->childCount(), 1);
-    dialog.remove(dialog.row(9999));
-    QCOMPARE(dialog.tree->topLevelItemCount(), 9999);
 }
 
 void TestOperationDialog::equalsAPlainModel()
@@ -426,7 +374,8 @@ void TestOperationDialog::equalsAPlainModel()
     };
     const QStringList funcs = {"+", "mid", "split", "index", "strcat", "decimal"};
     const QStringList names = {"a", "b", "x:y", "  ", "Configuration item", " c ", "a_1"};
-    QVector<CalculationCondition> model;
+    const QStringList texts = {"1", "${var1}", "a;b", "", "${temp}"};
+    Calculations model;
     const auto freeName = [](const QString &base, const QStringList &taken) {
         QString name = base;
         for (int i = 1; taken.contains(name); ++i) {
@@ -434,68 +383,60 @@ void TestOperationDialog::equalsAPlainModel()
         }
         return name;
     };
-    const auto keys = [&] {
-        QStringList taken;
-        std::transform(model.cbegin(), model.cend(), std::back_inserter(taken),
-                       [](const auto &each) { return each.key; });
-        return taken;
-    };
     const auto addStep = [&](CalculationCondition *to) {
         QStringList taken;
-        std::transform(to->expressions.cbegin(), to->expressions.cend(), std::back_inserter(taken),
-                       [](const auto &each) { return each.variableName; });
-        to->expressions.append(
-            step(freeName(QString("var%1").arg(taken.size() + 1), taken), "+", {"", ""}));
+        for (const CalculationStep &each : qAsConst(to->expressions)) {
+            taken.append(each.variableName);
+        }
+        const QString name = freeName(QString("var%1").arg(taken.size() + 1), taken);
+        to->expressions.append(step(name, "+", {"", ""}));
     };
     Shown dialog;
+    dialog.tree->setUpdatesEnabled(false); // is most of the time
     for (int i = 0; i < 3000; ++i) {
-        const int action = model.isEmpty() ? 0 : model.size() > 6 ? 6 : pick(9);
+        const QStringList keys = dialog.names(); // equal to the model's
+        const int action = model.isEmpty() ? 0 : model.size() > 6 ? 1 : pick(9);
         const int at = model.isEmpty() ? 0 : pick(model.size());
         const int steps = model.isEmpty() ? 0 : model.at(at).expressions.size();
         const int stepAt = steps == 0 ? 0 : pick(steps);
+        FunctionCall *call = steps == 0 ? nullptr : &model[at].expressions[stepAt].expression;
         if (action == 0) {
             dialog.onAddRootButtonClicked();
-            model.append(calculation(freeName("Configuration item", keys()), {}));
+            model.append(calculation(freeName("Configuration item", keys)));
             addStep(&model.last());
-        } else if (action == 1 && steps < 6) {
-            dialog.add(dialog.row(at));
-            addStep(&model[at]);
-        } else if (action == 2 && steps > 0) {
-            dialog.remove(dialog.row(at, stepAt));
-            model[at].expressions.remove(stepAt);
-        } else if (action == 3 && steps > 0) {
-            const QString func = funcs.at(pick(funcs.size()));
-            dialog.choose(dialog.row(at, stepAt), func);
-            FunctionCall &call = model[at].expressions[stepAt].expression;
-            call.func = func;
-            call.args = (call.args + QStringList({"", "", ""})).mid(0, func == "mid" ? 3 : 2);
-        } else if (action == 4 && steps > 0) {
-            QStringList &args = model[at].expressions[stepAt].expression.args;
-            const int index = pick(args.size());
-            args[index] = QStringList({"1", "${var1}", "a;b", "", "${temp}"}).at(pick(5));
-            Shown::type(dialog.field(dialog.row(at, stepAt), index, args.size()), args.at(index));
-        } else if (action == 5) {
-            const QString name = names.at(pick(names.size())).trimmed();
-            const bool isRefused =
-                name.contains(':') || (name != model.at(at).key && keys().contains(name));
-            ModalAnswerer answerer([](QDialog *box) { box->reject(); });
-            dialog.rename(at, name);
-            model[at].key = name.isEmpty() || isRefused ? model.at(at).key : name;
-            QTRY_COMPARE(answerer.wasAsked(), isRefused);
-        } else if (action == 6) {
+        } else if (action == 1) {
             dialog.remove(dialog.row(at));
             model.remove(at);
+        } else if (action <= 3 && steps < 6) {
+            dialog.add(dialog.row(at));
+            addStep(&model[at]);
+        } else if (action == 4 && steps > 0) {
+            dialog.remove(dialog.row(at, stepAt));
+            model[at].expressions.remove(stepAt);
+        } else if (action == 5 && steps > 0) {
+            call->func = funcs.at(pick(funcs.size()));
+            call->args = (call->args + QStringList({"", ""})).mid(0, call->func == "mid" ? 3 : 2);
+            dialog.choose(dialog.row(at, stepAt), call->func);
+        } else if (action == 6 && steps > 0) {
+            QString *text = &call->args[pick(call->args.size())];
+            *text = texts.at(pick(texts.size()));
+            const int index = int(text - &call->args.first());
+            Shown::type(dialog.field(dialog.row(at, stepAt), index, call->args.size()), *text);
         } else if (action == 7) {
+            const QString name = names.at(pick(names.size())).trimmed();
+            const bool isTaken = name != model.at(at).key && keys.contains(name);
+            ModalAnswerer answerer([](QDialog *box) { box->reject(); });
+            dialog.rename(at, name);
+            QTRY_COMPARE(answerer.wasAsked(), isTaken || name.contains(':'));
+            model[at].key = name.isEmpty() || answerer.wasAsked() ? keys.at(at) : name;
+        } else if (action == 8) {
             dialog.tree->clearSelection();
             dialog.row(at)->setSelected(true);
             dialog.OnCopySelectAction();
-            ModalAnswerer answerer([](QDialog *box) { answer(box, QMessageBox::Yes); });
+            ModalAnswerer answerer(answering(QMessageBox::Yes));
             dialog.OnPasteAction();
             model.append(model.at(at));
-            model.last().key.clear();
-            model.last().key = freeName(model.at(at).key, keys());
-        } else if (action == 8) {
-            dialog.setVariables({{"temp", QString::number(i)}});
+            model.last().key = freeName(keys.at(at), keys);
         }
         const auto collected = withoutIds(dialog.dynamicData().conditions);
         QVERIFY2(collected == withoutIds(model), qPrintable(QString("%1: %2").arg(i).arg(action)));
