@@ -833,6 +833,53 @@
     </message>
 </context>
 <context>
+    <name>LModbusParameterOperation</name>
+    <message>
+        <source>Name contains illegal characters.</source>
+        <translation>名称包含非法字符。</translation>
+    </message>
+    <message>
+        <source>Name already exists!</source>
+        <translation>名称已存在！</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>警告</translation>
+    </message>
+    <message>
+        <source>Conditional Operation</source>
+        <translation>条件运算</translation>
+    </message>
+    <message>
+        <source>ConfigName</source>
+        <translation>配置名称</translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation>结果</translation>
+    </message>
+    <message>
+        <source>Expression Name</source>
+        <translation>表达式名称</translation>
+    </message>
+    <message>
+        <source>Selection Operator</source>
+        <translation>选择运算符</translation>
+    </message>
+    <message>
+        <source>Expression</source>
+        <translation>表达式</translation>
+    </message>
+    <message>
+        <source>Operation</source>
+        <translation>操作</translation>
+    </message>
+    <message>
+        <source>No configuration item yet. “Add configuration item” makes one.</source>
+        <translation>还没有配置项。请用“添加配置项”新建一个。</translation>
+    </message>
+</context>
+<context>
     <name>Lum::LTextPlugin::LTextClient</name>
     <message>
         <source>Play Time</source>
@@ -1114,6 +1161,13 @@
     <message>
         <source>%1: argument %2, &quot;%3&quot;, is not a whole number or is too large; it counts as 0.</source>
         <translation>%1：第 %2 个参数“%3”不是整数或过大，按 0 处理。</translation>
+    </message>
+</context>
+<context>
+    <name>OperationItems</name>
+    <message>
+        <source>Configuration item</source>
+        <translation>配置项</translation>
     </message>
 </context>
 <context>
@@ -2366,6 +2420,25 @@
     <message>
         <source>Close this notice</source>
         <translation>关闭此通知</translation>
+    </message>
+</context>
+<context>
+    <name>lctrlsex::OperationCells</name>
+    <message>
+        <source>Name</source>
+        <translation>名称</translation>
+    </message>
+    <message>
+        <source>Default value</source>
+        <translation>默认值</translation>
+    </message>
+    <message>
+        <source>Operator</source>
+        <translation>运算符</translation>
+    </message>
+    <message>
+        <source>Argument %1</source>
+        <translation>参数 %1</translation>
     </message>
 </context>
 <context>
