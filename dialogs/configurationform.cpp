@@ -132,6 +132,7 @@ QTreeWidgetItem *rowOf(const QObject *sender, const QTreeWidget *tree)
 void setEmptyHint(QTreeWidget *tree, const QString &hint)
 {
     auto *label = new QLabel(hint, tree->viewport());
+    label->setObjectName(QStringLiteral("EmptyHint"));
     label->setAlignment(Qt::AlignCenter);
     label->setWordWrap(true);
     label->setEnabled(false);

@@ -2,7 +2,6 @@
 
 #include "configurationclipboard.h"
 #include "configurationform.h"
-#include "emptyhint.h"
 #include "operationcells.h"
 #include "operationitems.h"
 #include "settingstatustips.h"
@@ -33,7 +32,7 @@ void LModbusParameterOperation::build()
     m_items = new OperationItems(m_tree);
     m_clipboard = new ConfigurationClipboard(m_tree, m_items);
     m_tips = new SettingStatusTips(this);
-    showWhileEmpty(m_tree, tr("No configuration item yet. “Add configuration item” makes one."));
+    setEmptyHint(m_tree, tr("No configuration item yet. “Add configuration item” makes one."));
     m_clipboard->connectActions(this, {SLOT(OnCopySelectAction()), SLOT(OnCopyAllAction()),
                                        SLOT(OnPasteAction()), SLOT(OnCoverAction()),
                                        SLOT(OnDeleteAllAction())});
