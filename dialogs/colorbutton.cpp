@@ -1,6 +1,8 @@
 #include "colorbutton.h"
 
 #include <QDynamicPropertyChangeEvent>
+#include <QStyleOption>
+#include <QStylePainter>
 #include <QVariant>
 
 namespace lctrlsex {
@@ -22,6 +24,22 @@ void ColorButton::setColor(const QColor &color)
 {
     if (color.isValid()) {
         setProperty(colorProperty, color);
+    }
+}
+
+// A style would draw a gradient, which is another colour.
+void ColorButton::paintEvent(QPaintEvent *)
+{
+    constexpr int margin = 3;
+    QStylePainter painter(this);
+    const QRect area = rect().adjusted(margin, margin, -margin - 1, -margin - 1);
+    painter.setPen(palette().color(QPalette::Mid));
+    painter.setBrush(color().isValid() ? QBrush(color()) : QBrush(Qt::NoBrush));
+    painter.drawRect(area);
+    if (hasFocus()) {
+        QStyleOptionFocusRect focus;
+        focus.initFrom(this);
+        painter.drawPrimitive(QStyle::PE_FrameFocusRect, focus);
     }
 }
 

@@ -26,6 +26,7 @@ signals:
 
 protected:
     bool event(QEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
 };
 
 } // namespace lctrlsex

@@ -32,6 +32,10 @@ struct ConfigurationForm
     QDialogButtonBox *buttonBox;
 };
 
+/** How the headers of both trees look, as a rule of a style sheet. */
+constexpr char headerStyle[] = "QHeaderView::section { background: white; color: #555; "
+                               "border: 1px solid #e0e0e0; padding: 1px; font-weight: bold; }";
+
 /** A tool button for a cell of @p row, with the dynamic property "rowItem"; without a parent. */
 [[nodiscard]] QToolButton *makeRowButton(QTreeWidgetItem *row, const QString &icon,
                                          const QString &toolTip);

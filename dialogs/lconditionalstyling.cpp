@@ -33,8 +33,6 @@ constexpr char treeStyle[] =
     "QTreeWidget { border: 2px solid #d0d0d0; border-radius: 2px; background: white; outline: 0;"
     " gridline-color: #f0f0f0; }"
     "QTreeView::branch { image: none; }"
-    "QHeaderView::section { background: white; color: #555; border: 1px solid #e0e0e0;"
-    " padding: 1px; font-weight: bold; }"
     "QTreeWidget::item:selected { background: #e6f2ff; color: black; }"
     "QTreeWidget::item { border: 1px solid #e0e0e0; }"
     "QComboBox { background: #ffffff; color: #333333; }"
@@ -93,7 +91,8 @@ LConditionalStyling::LConditionalStyling(QWidget *parent)
 
 LConditionalStyling::~LConditionalStyling()
 {
-    // What is selected and focused changes once more while the tree goes.
+    // What is selected, focused and seen changes once more, while all of this is still there.
+    hide();
     m_tree->disconnect();
     m_tree->model()->disconnect(m_clipboard);
     delete m_tree;
@@ -106,7 +105,7 @@ void LConditionalStyling::buildTree()
     m_tree->setEditTriggers(QAbstractItemView::NoEditTriggers);
     m_tree->setItemDelegate(new FullCellEditorDelegate(m_tree));
     m_tree->setUniformRowHeights(true);
-    m_tree->setStyleSheet(QLatin1String(treeStyle));
+    m_tree->setStyleSheet(QLatin1String(treeStyle) + QLatin1String(lctrlsex::headerStyle));
     QHeaderView *header = m_tree->header();
     header->setMinimumSectionSize(leastSectionWidth);
     header->setSectionResizeMode(QHeaderView::ResizeToContents);

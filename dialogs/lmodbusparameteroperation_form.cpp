@@ -48,8 +48,8 @@ void LModbusParameterOperation::build()
     auto *remove = new QShortcut(QKeySequence::Delete, m_tree);
     remove->setContext(Qt::WidgetShortcut);
     connect(remove, &QShortcut::activated, this, &LModbusParameterOperation::removeSelected);
-    setColumns();
     showColors();
+    setColumns(); // behind the style, which makes the headers wider
     fitToScreen(this, preferredSize);
 }
 
@@ -67,7 +67,9 @@ void LModbusParameterOperation::setColumns()
     m_tree->setColumnWidth(OperationColumn::StepName, 150);
     m_tree->setColumnWidth(OperationColumn::Operator,
                            header->sectionSizeHint(OperationColumn::Operator));
-    m_tree->setColumnWidth(OperationColumn::Buttons, 60);
+    constexpr int buttonsWidth = 60;
+    m_tree->setColumnWidth(OperationColumn::Buttons,
+                           qMax(buttonsWidth, header->sectionSizeHint(OperationColumn::Buttons)));
     for (int column = 0; column < m_tree->columnCount(); ++column) {
         m_tree->headerItem()->setToolTip(column, m_tree->headerItem()->text(column));
     }
@@ -82,7 +84,8 @@ void LModbusParameterOperation::showColors()
                                          "background: transparent; "
                                          "selection-background-color: %1; "
                                          "selection-color: palette(window-text); }")
-                              .arg(selected.name(QColor::HexArgb)));
+                              .arg(selected.name(QColor::HexArgb)) +
+                          QLatin1String(headerStyle));
 }
 
 void LModbusParameterOperation::changeEvent(QEvent *event)

@@ -226,7 +226,10 @@ void OperationCells::offerWords(StepRow *row, const QStringList &words)
     const QWidget *editor = m_tree->itemWidget(row, OperationColumn::Arguments);
     const auto fields = editor->findChildren<AutoCompleteLineEdit *>();
     for (AutoCompleteLineEdit *field : fields) {
-        field->setWords(words);
+        // Values come every second; the list that somebody chooses from must not go with them.
+        if (field->words() != words) {
+            field->setWords(words);
+        }
     }
 }
 
