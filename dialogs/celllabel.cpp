@@ -55,8 +55,8 @@ QString folded(const QString &text)
 
 QColor mutedColor(const QPalette &palette)
 {
-    const QColor text = palette.color(QPalette::WindowText);
-    const QColor ground = palette.color(QPalette::Window);
+    const QColor &text = palette.color(QPalette::WindowText);
+    const QColor &ground = palette.color(QPalette::Window);
     const auto mixed = [](int of, int with) {
         return qRound(muted * of + (1 - muted) * with);
     };
