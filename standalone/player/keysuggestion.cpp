@@ -2,6 +2,7 @@
 
 #include "datapath.h"
 #include "keyoffer.h"
+#include "table/singlefields.h"
 
 #include <QCoreApplication>
 
@@ -43,21 +44,24 @@ int distance(const QString &left, const QString &right)
 
 QString nearestKey(const sources::DataSnapshot &data, const QString &key)
 {
+    QMap<QString, QString> offered;
+    for (auto source = data.cbegin(); source != data.cend(); ++source) {
+        for (const DataSourceKey &each : sources::offeredKeys(source->value)) {
+            offered.insert(source.key() + QLatin1Char(':') + each.name, {});
+        }
+    }
     const QString wanted = key.left(LongestKey);
     // What differs in more than a third of its letters is another key, not a slip.
     int best = qMax(2, wanted.size() / 3) + 1;
     QString nearest;
-    for (auto source = data.cbegin(); source != data.cend(); ++source) {
-        for (const DataSourceKey &offered : sources::offeredKeys(source->value)) {
-            const QString existing = source.key() + QLatin1Char(':') + offered.name;
-            if (qAbs(existing.size() - wanted.size()) >= best) {
-                continue;
-            }
-            const int letters = distance(wanted, existing.left(LongestKey));
-            if (letters < best) {
-                best = letters;
-                nearest = existing;
-            }
+    for (const QString &existing : offered.keys() + lctrlsex::singleFields(offered).keys()) {
+        if (qAbs(existing.size() - wanted.size()) >= best) {
+            continue;
+        }
+        const int letters = distance(wanted, existing.left(LongestKey));
+        if (letters < best) {
+            best = letters;
+            nearest = existing;
         }
     }
     return nearest;

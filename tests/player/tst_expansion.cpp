@@ -186,6 +186,7 @@ void TestExpansion::paths_data()
                                      << "s:c.e";
     QTest::newRow("Chinese") << QString::fromUtf8("s:中.文") << "y" << QString::fromUtf8("s:中.文");
     QTest::newRow("misspelt") << "s:temprature" << QString() << "s:temperature";
+    QTest::newRow("field of a list") << "s:rows.prise" << QString() << "s:rows.price";
     QTest::newRow("other source") << "t:temperature" << QString() << "s:temperature";
     for (const char *key : {"s:list[2]", "s:list[99999999999]", "s:list[-1]", "s:list[", "s:a.",
                             "s:", "", ":", "s:a[0]", "s:a.b.c", "s:.", "s:a..b"}) {
@@ -199,6 +200,7 @@ void TestExpansion::paths()
     QFETCH(QString, nearest);
     const auto data = dataOf(QByteArray(R"({"s":{"a":{"b":"1"},"list":["z",["x"]],"c.d":"dot",)") +
                              QByteArray(R"("c":{"d":"no","e":"plain"},"temperature":"20",)") +
+                             QByteArray(R"("rows":[{"price":"1"}],)") +
                              QString::fromUtf8(R"("中":{"文":"y"}}})").toUtf8());
     bool isFound = false;
     QTEST(valueOfKey(data, key, QString(), &isFound).text(), "text");
