@@ -76,8 +76,15 @@ public:
         auto *box = at<QComboBox>(item, 3);
         box->setCurrentIndex(box->findText(func));
     }
-    void add(QTreeWidgetItem *item) const { click(at<QToolButton>(item, 5, 0.25)); }
-    void remove(QTreeWidgetItem *item) const { click(at<QToolButton>(item, 5, 0.75)); }
+    void add(QTreeWidgetItem *item) const
+    {
+        click(at<QToolButton>(item, 5, 12.0 / buttonsWidth()));
+    }
+    void remove(QTreeWidgetItem *item) const
+    {
+        click(at<QToolButton>(item, 5, 1 - 12.0 / buttonsWidth()));
+    }
+    [[nodiscard]] int buttonsWidth() const { return tree->columnWidth(5); }
     QString rename(int calculation, const QString &name) const
     {
         auto *edit = at(row(calculation), 0);
@@ -115,6 +122,8 @@ class TestOperationDialog : public QObject
     Q_OBJECT
 
 private slots:
+    void initTestCase();
+    void keepsColumnWidths();
     void showsResults_data();
     void showsResults();
     void keepsWhatIsNotEdited();
@@ -126,6 +135,9 @@ private slots:
     void followsTheSources();
     void survives();
     void equalsAPlainModel();
+
+private:
+    QTemporaryDir m_data;
 };
 
 void TestOperationDialog::showsResults_data()
@@ -140,6 +152,20 @@ void TestOperationDialog::showsResults_data()
     QTest::newRow("outside") << QStringList({"index", "${var1}", "3"}) << "?";
     QTest::newRow("plain") << QStringList({"strcat", "<b>", "${var1}"}) << "<b>a\nb\nc";
     QTest::newRow("clamped") << QStringList({"decimal", "3.14159", "9"}) << "3.141590";
+}
+
+void TestOperationDialog::initTestCase()
+{
+    QVERIFY(m_data.isValid());
+    qputenv("LCTRLSEX_DATA_DIR", QFile::encodeName(m_data.path()));
+}
+
+void TestOperationDialog::keepsColumnWidths()
+{
+    Shown dialog;
+    dialog.tree->setColumnWidth(0, 321);
+    dialog.reject();
+    QCOMPARE(Shown().tree->columnWidth(0), 321);
 }
 
 void TestOperationDialog::showsResults()

@@ -110,7 +110,7 @@ void TestDataPanel::addFile(const QString &file, const QString &keyName)
             return dialog->isVisible() && result->text().isEmpty() && line(field)->hasFocus() &&
                    notice->text().startsWith(label + ": ");
         };
-        QVERIFY(line("SourceFile")->hasFocus());
+        QTRY_VERIFY(line("SourceFile")->hasFocus());
         QVERIFY2(isRefused("File", "SourceFile"), qPrintable(notice->text()));
         line("SourceFile")->setText("gone.csv");
         line("SourceName")->setText("a:b");

@@ -285,7 +285,9 @@ void TestLiveData::aMillionRowsAreCountedAside()
     QTRY_COMPARE_WITH_TIMEOUT(desk.rows("s"), Rows, 30000);
     QElapsedTimer counting;
     counting.start();
-    const auto hasFar = [&] { return !desk.pages.page(item, Rows / 2 - 2).isNull(); };
+    const auto hasFar = [&] {
+        return !desk.pages.page(item, Rows / 2 - 2).isNull();
+    };
     QVERIFY(!hasFar() && desk.pages.isCounting(item));
     qInfo("a page far ahead is answered for within %lld ms", counting.elapsed());
     bool isFound = false;
