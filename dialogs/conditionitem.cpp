@@ -24,6 +24,7 @@ int nameWidth(const QTreeWidget *tree, const QString &name)
 ConditionItem::ConditionItem(const QString &name, ConditionRow condition)
     : ConditionItem(std::move(condition))
 {
+    formerName = name;
     setText(NameColumn, name);
     setText(SerialColumn, QStringLiteral("1"));
     setFlags(flags() | Qt::ItemIsEditable);

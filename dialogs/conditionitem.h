@@ -45,6 +45,8 @@ public:
     [[nodiscard]] QVariant data(int column, int role) const override;
 
     std::shared_ptr<ConditionRow> row; ///< Never null.
+    /** What an item is called again when its name is deleted. */
+    QString formerName;
     /** Identifier that the item was loaded with; empty for a new one. */
     QString formerId;
     /** Members of the stored item that nobody here knows. */

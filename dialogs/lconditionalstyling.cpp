@@ -301,12 +301,15 @@ void LConditionalStyling::onItemChanged(QTreeWidgetItem *item, int column)
         return;
     }
     const QString name = item->text(column);
-    if (name.isEmpty()) {
+    QString &formerName = static_cast<ConditionItem *>(item)->formerName;
+    if (name.trimmed().isEmpty()) {
+        item->setText(column, formerName); // nobody could choose it without a name
         return;
     }
     const bool isIllegal = DataSourceConfigManager::ContainsIllegalChars(name);
     if (!isDuplicate(item) && !isIllegal) {
         lastAcceptedName() = name;
+        formerName = name;
         m_clipboard->refresh();
         scheduleTrial();
         return;
@@ -335,6 +338,7 @@ void LConditionalStyling::restoreName(QTreeWidgetItem *item)
     if (lastAcceptedName().isEmpty() || isDuplicate(item)) {
         item->setText(lctrlsex::NameColumn, uniqueName(tr("Configuration item"), item));
     }
+    static_cast<ConditionItem *>(item)->formerName = item->text(lctrlsex::NameColumn);
     m_tree->viewport()->update();
 }
 

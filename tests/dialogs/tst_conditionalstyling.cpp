@@ -271,6 +271,10 @@ void TestConditionalStyling::names()
     QCOMPARE(dialog.item(0)->text(Name), QString("Configuration item"));
     QCOMPARE(dialog.item(2)->text(Name), QString("Configuration item_1"));
     QVERIFY(dialog.rename(dialog.item(0), "b").isEmpty());
+    for (const char *nothing : {"", "  "}) {
+        QVERIFY(dialog.rename(dialog.item(0), nothing).isEmpty());
+        QCOMPARE(dialog.item(0)->text(Name), QString("b"));
+    }
     QCOMPARE(dialog.rename(dialog.item(1), "b"), QString("Duplicate Name"));
     QCOMPARE(dialog.item(1)->text(Name), QString("Configuration item")); // "b" is not free
     const QString longest(10000, 'n');
