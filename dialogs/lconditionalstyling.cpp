@@ -3,9 +3,7 @@
 #include "colorbutton.h"
 #include "conditioncells.h"
 #include "configurationform.h"
-#include "datasourceconfigmanager.h"
 #include "fullcelleditordelegate.h"
-#include "messagebox.h"
 #include "trialpanel.h"
 #include "visiblerows.h"
 
@@ -37,13 +35,6 @@ constexpr char treeStyle[] =
     "QTreeWidget::item { border: 1px solid #e0e0e0; }"
     "QComboBox { background: #ffffff; color: #333333; }"
     "QComboBox:disabled { background: #f0f0f0; color: #333333; }";
-
-/** The name that was accepted last, by any row of any dialog. */
-QString &lastAcceptedName()
-{
-    static QString name;
-    return name;
-}
 
 QStringList headers()
 {
@@ -279,77 +270,4 @@ void LConditionalStyling::onColorButtonClicked()
         button->setColor(chooser->selectedColor());
     }
     delete chooser;
-}
-
-void LConditionalStyling::onItemDoubleClicked(QTreeWidgetItem *item, int column)
-{
-    if (column == lctrlsex::NameColumn && item->parent() == nullptr) {
-        m_tree->editItem(item, column);
-    }
-}
-
-void LConditionalStyling::editName(ConditionItem *row)
-{
-    QTreeWidgetItem *item = row->parent() != nullptr ? row->parent() : row;
-    m_tree->scrollToItem(item);
-    m_tree->editItem(item, lctrlsex::NameColumn);
-}
-
-void LConditionalStyling::onItemChanged(QTreeWidgetItem *item, int column)
-{
-    if (column != lctrlsex::NameColumn || item->parent() != nullptr) {
-        return;
-    }
-    const QString name = item->text(column);
-    QString &formerName = static_cast<ConditionItem *>(item)->formerName;
-    if (name.trimmed().isEmpty()) {
-        item->setText(column, formerName); // nobody could choose it without a name
-        return;
-    }
-    const bool isIllegal = DataSourceConfigManager::ContainsIllegalChars(name);
-    if (!isDuplicate(item) && !isIllegal) {
-        lastAcceptedName() = name;
-        formerName = name;
-        m_clipboard->refresh();
-        scheduleTrial();
-        return;
-    }
-    const QPointer<LConditionalStyling> guard = this;
-    const int index = m_tree->indexOfTopLevelItem(item);
-    if (isDuplicate(item)) {
-        lctrlsex::showMessage(this, QMessageBox::Warning, tr("Duplicate Name"),
-                              tr("Name must be unique, please enter a different name!"));
-    } else {
-        lctrlsex::showMessage(this, QMessageBox::Warning, tr("Invalid Name"),
-                              tr("Name contains illegal characters."));
-    }
-    if (guard && m_tree->topLevelItem(index) == item) {
-        restoreName(item);
-        m_clipboard->refresh();
-    }
-}
-
-// Kept on purpose because it always was so: the name comes from whichever row was renamed last. One
-// that a row has meanwhile would be refused again, and again after that, for ever.
-void LConditionalStyling::restoreName(QTreeWidgetItem *item)
-{
-    const QSignalBlocker blocker(m_tree);
-    item->setText(lctrlsex::NameColumn, lastAcceptedName());
-    if (lastAcceptedName().isEmpty() || isDuplicate(item)) {
-        item->setText(lctrlsex::NameColumn, uniqueName(tr("Configuration item"), item));
-    }
-    static_cast<ConditionItem *>(item)->formerName = item->text(lctrlsex::NameColumn);
-    m_tree->viewport()->update();
-}
-
-bool LConditionalStyling::isDuplicate(const QTreeWidgetItem *item) const
-{
-    const QString name = item->text(lctrlsex::NameColumn);
-    for (int i = 0; i < m_tree->topLevelItemCount(); ++i) {
-        const QTreeWidgetItem *other = m_tree->topLevelItem(i);
-        if (other != item && other->text(lctrlsex::NameColumn) == name) {
-            return true;
-        }
-    }
-    return false;
 }

@@ -6,7 +6,6 @@
 #include "visiblerows.h"
 
 #include <QApplication>
-#include <QPointer>
 #include <QStyle>
 #include <QTimer>
 #include <QTreeWidget>
@@ -128,17 +127,6 @@ void LConditionalStyling::rebuildData()
             m_formerIds.insert(m_data.items.constLast().id, item->formerId);
         }
     }
-}
-
-QString LConditionalStyling::uniqueName(const QString &base, const QTreeWidgetItem *except) const
-{
-    lctrlsex::UniqueNames names;
-    for (int i = 0; i < m_tree->topLevelItemCount(); ++i) {
-        if (m_tree->topLevelItem(i) != except) {
-            names.take(m_tree->topLevelItem(i)->text(lctrlsex::NameColumn));
-        }
-    }
-    return names.makeUnique(base);
 }
 
 void LConditionalStyling::showContextMenu(const QPoint &position)
