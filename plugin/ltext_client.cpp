@@ -241,6 +241,7 @@ bool LTextClient::BindNode(LTextEffectNode *node, LFrameNode *frameNode)
         disconnect(m_node, SIGNAL(destroyed()), this, SLOT(ShowUnbound()));
     }
     m_node = node;
+    AbandonDialogs();
     if (!node) {
         ShowUnbound();
         return true;

@@ -190,8 +190,10 @@ private:
     /** Has a copy of unreadable @p records kept and says so; false when that failed. */
     [[nodiscard]] bool KeepUnreadable(const lctrlsex::RecordsFault &fault, const QString &records,
                                       const QString &title);
-    /** Whether it was accepted and the node is still there. */
+    /** Whether it was accepted, and the node stayed bound all the time. */
     [[nodiscard]] bool RunDialog(QDialog *dialog);
+    /** Closes what was opened for a node that is let go of, whatever it answers. */
+    void AbandonDialogs();
 
     /** Values of the fields that an item may use, by qualified name. */
     [[nodiscard]] static QMap<QString, QString>
@@ -232,6 +234,7 @@ private:
     lctrlsex::RecordsFault m_calculationsFault;
     QPointer<LConditionalStyling> m_stylesDialog;
     QPointer<LModbusParameterOperation> m_operationsDialog;
+    bool m_areDialogsAbandoned = false;
     QMap<QString, DynamicData> m_conditionalStyles; ///< By the name of the data source.
     QVector<CalculationCondition> m_calculations;
     std::unique_ptr<lctrlsex::StyleFiler> m_filer;

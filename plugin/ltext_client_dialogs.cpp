@@ -80,12 +80,25 @@ bool LTextClient::RunDialog(QDialog *dialog)
     connect(manager, SIGNAL(ConfigChanged()), this, SLOT(UpdateDialogs()), Qt::UniqueConnection);
     connect(manager, SIGNAL(SourceChanged()), this, SLOT(UpdateDialogs()), Qt::UniqueConnection);
     UpdateDialogs();
+    m_areDialogsAbandoned = false;
     const bool isAccepted = dialog->exec() == QDialog::Accepted;
     if (!bound) {
         return false;
     }
     disconnect(manager, nullptr, this, SLOT(UpdateDialogs()));
-    return isAccepted;
+    return isAccepted && !m_areDialogsAbandoned;
+}
+
+// Not deleted: this may be called from within one of them.
+void LTextClient::AbandonDialogs()
+{
+    m_areDialogsAbandoned = true;
+    for (QDialog *dialog : {static_cast<QDialog *>(m_stylesDialog.data()),
+                            static_cast<QDialog *>(m_operationsDialog.data())}) {
+        if (dialog) {
+            dialog->reject();
+        }
+    }
 }
 
 void LTextClient::UpdateDialogs()

@@ -70,16 +70,21 @@ const Executioner s_executioners[] = {{"delete item",
                                            qDeleteAll(window->children());
                                        }}};
 
-/** Opens a dialog: by an action, or by a slot with a flag for an argument. */
+/** Opens a dialog: by an action of the editor, or by a slot of it or, "On...", of the client. */
 struct Opener
 {
     const char *name;
     bool isSlot;
 };
 
-const Opener s_openers[] = {{"actionTextColor", false},     {"actionTextBgcolor", false},
-                            {"actionEditorBgColor", false}, {"actionStrokeColor", false},
-                            {"InsertTable", true},          {"TableSplitCell(bool)", true}};
+const Opener s_openers[] = {{"actionTextColor", false},
+                            {"actionTextBgcolor", false},
+                            {"actionEditorBgColor", false},
+                            {"actionStrokeColor", false},
+                            {"InsertTable", true},
+                            {"TableSplitCell(bool)", true},
+                            {"OnConditionalStylesClicked", true},
+                            {"OnSetOperationClicked", true}};
 
 void openDialog(const Opener &opener, const Stage &stage)
 {
@@ -88,8 +93,19 @@ void openDialog(const Opener &opener, const Stage &stage)
     } else if (QByteArray(opener.name).endsWith("(bool)")) {
         QMetaObject::invokeMethod(stage.editor, "TableSplitCell", Q_ARG(bool, true));
     } else {
-        QMetaObject::invokeMethod(stage.editor, opener.name);
+        const bool isClients = QByteArray(opener.name).startsWith("On");
+        QMetaObject::invokeMethod(isClients ? static_cast<QObject *>(stage.client) : stage.editor,
+                                  opener.name);
     }
+}
+
+/** Does in @p dialog what changes the item once it is accepted. */
+void edit(QDialog *dialog)
+{
+    if (auto *colours = qobject_cast<QColorDialog *>(dialog)) {
+        colours->setCurrentColor(Qt::green);
+    }
+    QMetaObject::invokeMethod(dialog, "onAddRootButtonClicked");
 }
 
 /** A window of a host with the client in it, one item open and another one beside it. */
@@ -165,9 +181,7 @@ void TestLifecycleDialogs::aStrokeWhileADialogIsOpen()
     {
         const ModalAnswerer answerer([&](QDialog *dialog) {
             const QPointer<QDialog> guard(dialog);
-            if (auto *colours = qobject_cast<QColorDialog *>(dialog)) {
-                colours->setCurrentColor(Qt::green);
-            }
+            edit(dialog);
             s_executioners[executioner].strike(&host.stage, &host.window);
             if (guard) {
                 guard->done(accepted ? QDialog::Accepted : QDialog::Rejected);
