@@ -1,5 +1,6 @@
 #include "conditioncells.h"
 
+#include "celllabel.h"
 #include "colorbutton.h"
 #include "configurationform.h"
 #include "expressioneditor.h"
@@ -115,7 +116,7 @@ void ConditionCells::fillSource(QComboBox *box, const QString &key) const
                                 ? m_fields.isEmpty() ? tr("No data source") : tr("Choose a field")
                                 : tr("%1 (not available)").arg(key));
     box->setCurrentIndex(m_fields.indexOf(key));
-    box->setToolTip(key);
+    box->setToolTip(plainToolTip(key));
 }
 
 void ConditionCells::setFields(const QStringList &fields)

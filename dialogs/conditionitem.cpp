@@ -1,5 +1,7 @@
 #include "conditionitem.h"
 
+#include "celllabel.h"
+
 #include <QFontMetrics>
 #include <QTreeWidget>
 
@@ -47,7 +49,7 @@ QVariant ConditionItem::data(int column, int role) const
     }
     if (role == Qt::ToolTipRole && column == NameColumn &&
         nameWidth(treeWidget(), text(NameColumn)) > widestName) {
-        return text(NameColumn).left(mostShown).toHtmlEscaped();
+        return plainToolTip(text(NameColumn));
     }
     return QTreeWidgetItem::data(column, role);
 }

@@ -1,3 +1,4 @@
+#include "celllabel.h"
 #include "conditioncells.h"
 #include "configurationform.h"
 #include "lconditionalstyling.h"
@@ -39,8 +40,9 @@ void markRow(QTreeWidgetItem *row, bool isWinner, const QString &explanation)
     if (row->icon(lctrlsex::SerialColumn).isNull() == isWinner) {
         row->setIcon(lctrlsex::SerialColumn, icon);
     }
-    if (row->toolTip(lctrlsex::SerialColumn) != explanation) {
-        row->setToolTip(lctrlsex::SerialColumn, explanation);
+    const QString toolTip = lctrlsex::plainToolTip(explanation);
+    if (row->toolTip(lctrlsex::SerialColumn) != toolTip) {
+        row->setToolTip(lctrlsex::SerialColumn, toolTip);
     }
 }
 

@@ -1,5 +1,6 @@
 #include "trialpanel.h"
 
+#include "celllabel.h"
 #include "lappconfig.h"
 #include "shorttext.h"
 
@@ -113,7 +114,7 @@ void TrialPanel::showTrial(const QString &name, const QString &source,
         line->setText(0, QString::number(i + 1));
         line->setText(1, shortText(text, longestQuote));
         line->setText(2, trial.answers.at(i).explanation);
-        line->setToolTip(2, trial.answers.at(i).explanation);
+        line->setToolTip(2, plainToolTip(trial.answers.at(i).explanation));
         QFont font = m_reasons->font();
         font.setBold(i == trial.winner);
         line->setFont(2, font);
