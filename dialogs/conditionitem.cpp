@@ -2,7 +2,9 @@
 
 #include "celllabel.h"
 
+#include <QApplication>
 #include <QFontMetrics>
+#include <QStyle>
 #include <QTreeWidget>
 
 namespace lctrlsex {
@@ -50,6 +52,12 @@ QVariant ConditionItem::data(int column, int role) const
     if (role == Qt::ToolTipRole && column == NameColumn &&
         nameWidth(treeWidget(), text(NameColumn)) > widestName) {
         return plainToolTip(text(NameColumn));
+    }
+    if (column == SerialColumn && role == Qt::DecorationRole && isWinner) {
+        return QApplication::style()->standardIcon(QStyle::SP_DialogApplyButton);
+    }
+    if (column == SerialColumn && role == Qt::ToolTipRole) {
+        return plainToolTip(answer.explanation);
     }
     return QTreeWidgetItem::data(column, role);
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "condition.h"
 #include "conditionrow.h"
 
 #include <QTreeWidgetItem>
@@ -51,6 +52,9 @@ public:
     QString formerId;
     /** Members of the stored item that nobody here knows. */
     QJsonObject others;
+    /** What became of the value that is tried; shown once the view is updated. */
+    ConditionAnswer answer;
+    bool isWinner = false; ///< The condition applies; one that holds too comes behind it.
 
 private:
     Q_DISABLE_COPY(ConditionItem)

@@ -1,4 +1,3 @@
-#include "celllabel.h"
 #include "conditioncells.h"
 #include "configurationform.h"
 #include "lconditionalstyling.h"
@@ -7,7 +6,6 @@
 #include "visiblerows.h"
 
 #include <QApplication>
-#include <QStyle>
 #include <QTimer>
 #include <QTreeWidget>
 #include <QUuid>
@@ -33,24 +31,12 @@ FieldConditions entryOf(const ConditionItem *item)
 }
 
 /** Marks the condition that applies, and says of each why it does or does not. */
-void markRow(QTreeWidgetItem *row, bool isWinner, const QString &explanation)
-{
-    const QIcon icon =
-        isWinner ? QApplication::style()->standardIcon(QStyle::SP_DialogApplyButton) : QIcon();
-    if (row->icon(lctrlsex::SerialColumn).isNull() == isWinner) {
-        row->setIcon(lctrlsex::SerialColumn, icon);
-    }
-    const QString toolTip = lctrlsex::plainToolTip(explanation);
-    if (row->toolTip(lctrlsex::SerialColumn) != toolTip) {
-        row->setToolTip(lctrlsex::SerialColumn, toolTip);
-    }
-}
-
 void markItem(ConditionItem *item, const lctrlsex::ConditionTrial &trial)
 {
-    markRow(item, trial.winner == 0, trial.answers.at(0).explanation);
-    for (int i = 0; i < item->childCount(); ++i) {
-        markRow(item->child(i), trial.winner == i + 1, trial.answers.at(i + 1).explanation);
+    for (int i = 0; i < trial.answers.size(); ++i) {
+        ConditionItem *row = i == 0 ? item : lctrlsex::childOf(item, i - 1);
+        row->answer = trial.answers.at(i);
+        row->isWinner = i == trial.winner;
     }
 }
 
@@ -232,4 +218,5 @@ void LConditionalStyling::tryValue()
             m_trial->showTrial(item->text(lctrlsex::NameColumn), source, conditions, trial);
         }
     }
+    m_tree->viewport()->update();
 }
