@@ -5,6 +5,7 @@
 #include "configurationform.h"
 #include "expressioneditor.h"
 #include "lappconfig.h"
+#include "treecells.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -89,7 +90,7 @@ void ConditionCells::place(ConditionItem *item, ConditionColumn column, QWidget 
         widget->setAccessibleName(m_tree->headerItem()->text(column));
     }
     lightenOnDark(widget);
-    m_tree->setItemWidget(item, column, widget);
+    setCell(item, column, widget);
 }
 
 void ConditionCells::makeSource(ConditionItem *item)
@@ -138,9 +139,8 @@ void ConditionCells::makeType(ConditionItem *item)
     auto *box = makeQuietBox<QComboBox>();
     box->addItems(expressionKindNames());
     box->setCurrentIndex(item->row->expression.kind);
-    box->setProperty("rowItem", QVariant::fromValue<QTreeWidgetItem *>(item));
     connect(box, QOverload<int>::of(&QComboBox::currentIndexChanged), this, [this, box](int kind) {
-        auto *const row = static_cast<ConditionItem *>(rowOf(box, m_tree));
+        auto *const row = static_cast<ConditionItem *>(rowOfCell(m_tree, box));
         if (row != nullptr && kind >= 0) {
             setKind(row, kind);
         }
@@ -196,7 +196,6 @@ void ConditionCells::makeColor(ConditionItem *item, ConditionColumn column, int 
 {
     const FontStyle fallback = newConditionStyle({});
     auto *button = new ColorButton(LAppConfig::IntToColor(item->row->style.*member));
-    button->setProperty("rowItem", QVariant::fromValue<QTreeWidgetItem *>(item));
     connect(button, &ColorButton::colorChanged, this,
             [this, button, member, fallback, row = item->row] {
                 const QColor color = button->color();

@@ -4,6 +4,7 @@
 #include "conditioncells.h"
 #include "configurationform.h"
 #include "fullcelleditordelegate.h"
+#include "treecells.h"
 #include "trialpanel.h"
 #include "visiblerows.h"
 
@@ -138,6 +139,15 @@ void LConditionalStyling::addShortcuts()
     add(Qt::Key_F2, &LConditionalStyling::editName);
     add(Qt::Key_Insert, &LConditionalStyling::addCondition);
     add(Qt::Key_Delete, &LConditionalStyling::deleteRow);
+}
+
+bool LConditionalStyling::focusNextPrevChild(bool next)
+{
+    const auto make = [this](QTreeWidgetItem *row) {
+        m_cells->make(static_cast<ConditionItem *>(row));
+    };
+    return lctrlsex::tabThroughCells(m_tree, make, m_trial->focusProxy(), next) ||
+           QDialog::focusNextPrevChild(next);
 }
 
 void LConditionalStyling::keyPressEvent(QKeyEvent *event)

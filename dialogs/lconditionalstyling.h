@@ -56,6 +56,7 @@ public:
     void setLiveValues(const QMap<QString, QString> &values);
 
 protected:
+    bool focusNextPrevChild(bool next) override;
     void keyPressEvent(QKeyEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
 

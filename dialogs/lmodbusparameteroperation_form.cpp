@@ -101,17 +101,8 @@ bool LModbusParameterOperation::focusNextPrevChild(bool next)
     const auto make = [this](QTreeWidgetItem *row) {
         m_cells->make(row);
     };
-    const QWidget *focused = focusWidget();
-    QPushButton *first = m_buttons->button(QDialogButtonBox::Ok);
-    if (focused != nullptr && m_tree->viewport()->isAncestorOf(focused)) {
-        if (!focusNextCell(m_tree, make, next)) {
-            (next ? static_cast<QWidget *>(first) : m_tree)
-                ->setFocus(next ? Qt::TabFocusReason : Qt::BacktabFocusReason);
-        }
-        return true;
-    }
-    const bool isAtTree = next ? focused == m_tree : focused == first;
-    return (isAtTree && focusNextCell(m_tree, make, next)) || QDialog::focusNextPrevChild(next);
+    return tabThroughCells(m_tree, make, m_buttons->button(QDialogButtonBox::Ok), next) ||
+           QDialog::focusNextPrevChild(next);
 }
 
 void LModbusParameterOperation::ShowContextMenu()

@@ -1,6 +1,7 @@
 #include "operationitems.h"
 
 #include <QTreeWidget>
+#include <QUuid>
 
 namespace lctrlsex {
 
@@ -81,6 +82,7 @@ void OperationItems::copyRows(const QVector<int> &rows)
     clipboard.conditions.clear();
     for (const int row : rows) {
         clipboard.conditions.append(at(row)->calculation());
+        clipboard.conditions.last().id = QUuid::createUuid().toString();
     }
 }
 
@@ -90,7 +92,8 @@ void OperationItems::appendCopies()
     QList<CalculationRow *> rows;
     for (const CalculationCondition &calculation : qAsConst(clipboard.conditions)) {
         rows.append(new CalculationRow(calculation));
-        rows.last()->record.key = taken.makeUnique(calculation.key);
+        rows.last()->record.key = taken.makeUnique(
+            calculation.key.isEmpty() ? tr("Configuration item") : calculation.key);
     }
     append(rows);
 }

@@ -77,7 +77,12 @@ QTreeWidgetItem *rowOfCell(const QTreeWidget *tree, const QObject *widget)
     return nullptr;
 }
 
-bool focusNextCell(QTreeWidget *tree, const VisibleRows::Make &make, bool isForward)
+/**
+ * Moves the focus on to the next widget in the cells, or back to the one before, row by row; from
+ * outside of them to the first one of the current row, or back to the very last one. False, and
+ * nothing is done, when there is no further one.
+ */
+static bool focusNextCell(QTreeWidget *tree, const VisibleRows::Make &make, bool isForward)
 {
     QWidget *focused = tree->window()->focusWidget();
     QTreeWidgetItem *row = rowOfCell(tree, focused);
@@ -102,6 +107,21 @@ bool focusNextCell(QTreeWidget *tree, const VisibleRows::Make &make, bool isForw
         }
     }
     return false;
+}
+
+bool tabThroughCells(QTreeWidget *tree, const VisibleRows::Make &make, QWidget *behind,
+                     bool isForward)
+{
+    const QWidget *focused = tree->window()->focusWidget();
+    if (focused != nullptr && tree->viewport()->isAncestorOf(focused)) {
+        if (!focusNextCell(tree, make, isForward)) {
+            (isForward ? behind : tree)
+                ->setFocus(isForward ? Qt::TabFocusReason : Qt::BacktabFocusReason);
+        }
+        return true;
+    }
+    const bool isBeside = isForward ? focused == tree : focused == behind;
+    return isBeside && focusNextCell(tree, make, isForward);
 }
 
 RowFocus::RowFocus(QTreeWidget *tree, int column)

@@ -16,12 +16,13 @@ void setCell(QTreeWidgetItem *row, int column, QWidget *cell);
 [[nodiscard]] QTreeWidgetItem *rowOfCell(const QTreeWidget *tree, const QObject *widget);
 
 /**
- * Moves the focus on to the next widget in the cells of @p tree, or back to the one before, row by
- * row; from outside of them to the first one of the current row, or back to the very last one.
- * @p make makes the widgets of a row that has none yet. False, and nothing is done, when there is
- * no further one.
+ * What Tab does in a dialog with @p tree: row by row through the widgets in its cells, from the
+ * tree to the first one of the current row, and from the last one of all to @p behind, which stands
+ * behind the tree; the other way round when not @p isForward. @p make makes the widgets of a row
+ * that has none yet. False, and nothing is done, where the focus is elsewhere.
  */
-bool focusNextCell(QTreeWidget *tree, const VisibleRows::Make &make, bool isForward);
+bool tabThroughCells(QTreeWidget *tree, const VisibleRows::Make &make, QWidget *behind,
+                     bool isForward);
 
 /**
  * Keeps the focus in a tree while its keys move from row to row: it would hand it on to the widget

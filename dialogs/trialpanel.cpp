@@ -54,6 +54,7 @@ TrialPanel::TrialPanel(QWidget *parent)
 {
     auto *label = new QLabel(tr("&Test value"), this);
     label->setBuddy(m_value);
+    setFocusProxy(m_value);
     m_value->setPlaceholderText(tr("Type a value to see which condition holds"));
     m_value->setObjectName(QStringLiteral("TestValue"));
     m_isLive->setObjectName(QStringLiteral("TestLive"));

@@ -446,7 +446,16 @@ void TestConditionalStyling::keyboard()
     QTest::keyClicks(editor, "renamed");
     QTest::keyClick(editor, Qt::Key_Return);
     QTRY_COMPARE(dialog.item(0)->text(Name), QString("renamed"));
+    // Tab goes through the cells in their order, also through one that was made anew.
+    auto *const type = dialog.cell<QComboBox>(dialog.item(0), Type);
+    type->setCurrentIndex(1);
+    type->setFocus();
+    QTest::keyClick(type, Qt::Key_Tab);
     auto *const number = dialog.cell<QLineEdit>(dialog.item(0), Expression);
+    QCOMPARE(QApplication::focusWidget(), number);
+    QTest::keyClick(number, Qt::Key_Tab);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    QCOMPARE(QApplication::focusWidget(), dialog.cell<QFontComboBox>(dialog.item(0), Font));
     number->setFocus();
     QTest::keyClick(number, Qt::Key_Return); // ends the work on the cell, not on the dialog
     QVERIFY(dialog.isVisible());
