@@ -97,6 +97,7 @@ void TestDataPanel::addFile(const QString &file, const QString &keyName)
     emit menu->aboutToShow();
     QCOMPARE(menu->actions().size(), 5);
     ModalAnswerer answer([=](QDialog *dialog) {
+        QVERIFY(QTest::qWaitForWindowActive(dialog));
         const auto line = [dialog](const char *name) {
             return dialog->findChild<QLineEdit *>(name);
         };
@@ -149,6 +150,7 @@ void TestDataPanel::editsQueries()
     emit menu->aboutToShow();
     ModalAnswerer answer([](QDialog *dialog) {
         const auto end = qScopeGuard([dialog] { dialog->isVisible() ? dialog->reject() : void(); });
+        QVERIFY(QTest::qWaitForWindowActive(dialog));
         auto *list = dialog->findChild<QListWidget *>("SourceQueries");
         auto *name = dialog->findChild<QLineEdit *>("SourceQueryName");
         auto *text = dialog->findChild<QPlainTextEdit *>("SourceQuery");
