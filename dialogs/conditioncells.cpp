@@ -101,6 +101,7 @@ void ConditionCells::makeSource(ConditionItem *item)
             [this, box, row = item->row](int index) {
                 if (index >= 0) {
                     row->key = box->itemText(index);
+                    box->setToolTip(plainToolTip(row->key));
                     emit changed();
                 }
             });

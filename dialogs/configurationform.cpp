@@ -43,11 +43,11 @@ void followFocus(QTreeWidget *tree, const QWidget *focused)
         !tree->viewport()->isAncestorOf(focused)) {
         return;
     }
-    const QTreeWidgetItem *row = rowAround(tree, focused);
+    QTreeWidgetItem *row = rowAround(tree, focused);
     if (row != nullptr) {
         const int column =
             tree->columnAt(focused->mapTo(tree->viewport(), focused->rect().center()).x());
-        tree->setCurrentItem(const_cast<QTreeWidgetItem *>(row), qMax(0, column));
+        tree->setCurrentItem(row, qMax(0, column));
         tree->scrollTo(tree->currentIndex());
     }
 }

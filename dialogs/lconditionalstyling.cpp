@@ -86,7 +86,6 @@ LConditionalStyling::~LConditionalStyling()
     // What is selected, focused and seen changes once more, while all of this is still there.
     hide();
     m_tree->disconnect();
-    m_tree->model()->disconnect(m_clipboard);
     delete m_tree;
 }
 

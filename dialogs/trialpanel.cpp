@@ -78,6 +78,8 @@ TrialPanel::TrialPanel(QWidget *parent)
     connect(m_isLive, &QCheckBox::toggled, this, [this](bool isLive) {
         m_value->setReadOnly(isLive);
         if (!isLive) {
+            // The live value that is still shown is the one that is tried from now on.
+            m_value->setModified(!m_value->text().isEmpty());
             m_value->setFocus();
         }
         emit changed();

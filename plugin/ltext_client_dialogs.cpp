@@ -59,7 +59,7 @@ bool LTextClient::KeepUnreadable(const lctrlsex::RecordsFault &fault, const QStr
     const QString text =
         tr("What this item stores cannot be read (byte %1: %2). It stays as it is until you accept "
            "the dialog with changes.")
-            .arg(fault.offset)
+            .arg(qMax(0, fault.offset)) // where no byte is to blame, the whole text is
             .arg(fault.reason);
     lctrlsex::showMessage(
         window, QMessageBox::Warning, title,
@@ -81,12 +81,13 @@ bool LTextClient::RunDialog(QDialog *dialog)
     connect(manager, SIGNAL(SourceChanged()), this, SLOT(UpdateDialogs()), Qt::UniqueConnection);
     UpdateDialogs();
     m_areDialogsAbandoned = false;
+    const QPointer<LTextClient> self(this);
     const bool isAccepted = dialog->exec() == QDialog::Accepted;
-    if (!bound) {
+    if (!self) {
         return false;
     }
     disconnect(manager, nullptr, this, SLOT(UpdateDialogs()));
-    return isAccepted && !m_areDialogsAbandoned;
+    return isAccepted && bound && !m_areDialogsAbandoned;
 }
 
 // Not deleted: this may be called from within one of them.

@@ -426,6 +426,11 @@ void TestConditionalStyling::trial()
     dialog.cell<QLineEdit>(item, Expression)->setText("40");
     QApplication::processEvents();
     QCOMPARE(verdict->text(), QString("price: condition 1 applies"));
+    // What is shown goes on being tried when it is not followed any more.
+    dialog.findChild<QCheckBox *>("TestLive")->click();
+    QApplication::processEvents();
+    QCOMPARE(value->text(), QString("50"));
+    QCOMPARE(verdict->text(), QString("price: condition 1 applies"));
 }
 
 void TestConditionalStyling::keyboard()
